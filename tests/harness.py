@@ -1,0 +1,34 @@
+"""What the test runners share: jobs in parallel, a counted end, one way to tell of a failure."""
+
+import concurrent.futures
+import os
+import sys
+
+
+def processors():
+    return len(os.sched_getaffinity(0))
+
+
+def in_parallel(work, items):
+    """The results of work(item), in the order of the items, with a processor for each."""
+    with concurrent.futures.ThreadPoolExecutor(processors()) as pool:
+        return list(pool.map(work, items))
+
+
+def tell_failure(title, *texts):
+    print(f"--- FAILED {title}")
+    for text in texts:
+        if isinstance(text, bytes):
+            text = text.decode("utf-8", "replace")
+        if text and text.strip():
+            print("\n".join("    " + line for line in text.strip().splitlines()[-40:]))
+
+
+def finish(what, passed, failed, skipped=0):
+    """Prints the counts, hands them to ./test through the file named by COUNTS, and ends with 0 or 1."""
+    rest = f", {skipped} skipped" if skipped else ""
+    print(f"{what}: {passed} of {passed + failed} passed{rest}")
+    if "COUNTS" in os.environ:
+        with open(os.environ["COUNTS"], "w", encoding="ascii") as counts:
+            counts.write(f"{passed} {failed}\n")
+    sys.exit(1 if failed else 0)
