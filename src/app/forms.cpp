@@ -1,0 +1,39 @@
+// The forms of the program, by name. A calculator that stands here has its menu button and navigation items enabled.
+#include "app/forms.h"
+
+#include "frame/form11.h"
+#include "frame/form7.h"
+#include "frame/program.h"
+#include "polygon/form16.h"
+#include "services/minutesdialog.h"
+#include "services/rounddialog.h"
+#include "sineplate/form12.h"
+
+#include <memory>
+
+namespace brindlex {
+
+namespace {
+
+template <class FormType>
+void Add(Program& program, const char* name) {
+    program.Register(name, [](Program& owner) { return std::make_unique<FormType>(owner); });
+}
+
+}  // namespace
+
+void RegisterForms(Program& program) {
+    Add<Form11>(program, "Form11");
+    Add<Form7>(program, "Form7");
+    Add<Form10>(program, "Form10");
+    Add<sineplate::Form12>(program, "Form12");
+    Add<polygon::Form16>(program, "Form16");
+    for (const char* const name : {"Form5", "Form6", "Form9", "Form14"}) {
+        program.Register(name, [name](Program& owner) { return MakeRoundNumbersDialog(owner, name); });
+    }
+    for (const char* const name : {"Form3", "Form4", "Form13", "Form15"}) {
+        program.Register(name, [name](Program& owner) { return MakeMinutesSecondsDialog(owner, name); });
+    }
+}
+
+}  // namespace brindlex
