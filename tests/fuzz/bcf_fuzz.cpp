@@ -1,0 +1,150 @@
+// Bolt Circles with arbitrary documents: the first line of the input is what to do with the document afterwards, a
+// letter each; the rest is the document. Whatever it holds, no handler lets a fault out, the Units menu is open exactly
+// while coordinates are shown, nothing drawn is infinite, and what is saved comes back.
+#include "app/forms.h"
+#include "boltcircle/form8.h"
+#include "frame/program.h"
+#include "headless/headlessruntime.h"
+#include "services/rounddialog.h"
+
+#include <stdlib.h>  // mkdtemp
+
+#include <algorithm>
+#include <cmath>
+#include <cstddef>
+#include <cstdint>
+#include <cstdlib>
+#include <filesystem>
+#include <iterator>
+#include <string>
+#include <string_view>
+#include <system_error>
+#include <vector>
+
+namespace {
+
+using namespace brindlex;
+using boltcircle::Form8;
+
+constexpr std::size_t MostActs = 8;
+
+void Demand(bool holds) {
+    if (!holds) {
+        std::abort();
+    }
+}
+
+/// A folder that goes away with the fuzzer.
+class ScratchFolder {
+public:
+    ScratchFolder() {
+        std::string path = (std::filesystem::temp_directory_path() / "brindlex-fuzz-XXXXXX").string();
+        Demand(::mkdtemp(path.data()) != nullptr);
+        path_ = path;
+    }
+    ~ScratchFolder() {
+        std::error_code ignored;
+        std::filesystem::remove_all(path_, ignored);
+    }
+    ScratchFolder(const ScratchFolder&) = delete;
+    ScratchFolder& operator=(const ScratchFolder&) = delete;
+
+    [[nodiscard]] const std::filesystem::path& Path() const { return path_; }
+
+private:
+    std::filesystem::path path_;
+};
+
+void CheckForm(const Form8& form, const DrivenRun& run) {
+    Demand(!form.Owner().Ended());
+    Demand(form.Units.Enabled() == (form.Check1.Value() == 0));
+    for (const DrawItem& item : form.Picture1.Drawn().Items()) {
+        Demand(std::isfinite(item.X1) && std::isfinite(item.Y1) && std::isfinite(item.X2) && std::isfinite(item.Y2));
+    }
+    for (const MessageBox& box : run.Boxes) {
+        Demand(box.Text.find("Run-time error") == std::string::npos);
+    }
+}
+
+std::vector<std::string> EntriesOf(const Form8& form) {
+    return {form.Text1.Text(), form.Text2.Text(), form.Text3.Text(), form.Text4.Text(), form.Text5.Text()};
+}
+
+void Open(Form8& form, DrivenRun& run, const std::string& name) {
+    run.Files.emplace_back(name);
+    form.OpenFile.FireClick();
+}
+
+/// Saves, and opens what was saved: a form with a report has no empty entry, so all of it comes back.
+void SaveAndOpen(Form8& form, DrivenRun& run) {
+    if (form.Text6.Text().empty()) {
+        return;
+    }
+    const std::vector<std::string> entries = EntriesOf(form);
+    for (const std::string& entry : entries) {
+        if (entry.empty() || entry.find_first_of("\r\n") != std::string::npos) {
+            return;
+        }
+    }
+    const std::string report = form.Text6.Text();
+    run.Files.emplace_back("saved.bcf");
+    form.SaveFileAs.FireClick();
+    form.Text1.Text("7");
+    Open(form, run, "saved.bcf");
+    Demand(EntriesOf(form) == entries);
+    Demand(form.Text6.Text() == report);
+}
+
+void Act(Form8& form, DrivenRun& run, char letter) {
+    MenuItem* const items[] = {
+        &form.Inches2Millimeters, &form.Millimeters2Inches, &form.Copy, &form.Paste, &form.RoundNumbers, &form.Both};
+    switch (letter) {
+        case 'a':
+            form.Check1.Value(1 - form.Check1.Value());
+            break;
+        case 'c':
+            form.Command1.Value(true);
+            break;
+        case 's':
+            SaveAndOpen(form, run);
+            break;
+        case 'd':
+            form.Text5.Text(form.Text5.Text() + "\xB0  30'  15\"");
+            break;
+        default:
+            run.Printers.emplace_back(PrinterChoice{1, 0, 0});
+            items[static_cast<unsigned char>(letter) % std::size(items)]->FireClick();
+            run.Printers.clear();
+            run.Printed.clear();
+    }
+    CheckForm(form, run);
+}
+
+}  // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+    static const ScratchFolder scratch;
+    const std::string input(data, data + size);
+    const std::size_t end = std::min(input.find('\n'), input.size());
+    const Folder folder(scratch.Path());
+    folder.Rewrite("input.bcf", end < input.size() ? std::string_view(input).substr(end + 1) : std::string_view(),
+                   Durability::Step);
+    DrivenRun run;
+    run.ModalLoop = [&](Form& dialog) {
+        if (auto* const round = dynamic_cast<RoundNumbersDialog*>(&dialog)) {
+            round->Combo1.Text(std::to_string(1 + size % 15));
+            round->Command1.Value(true);
+        }
+    };
+    HeadlessRuntime runtime(run, {1024, 768});
+    Program program(runtime, folder);
+    RegisterForms(program);
+    auto& form = dynamic_cast<Form8&>(program.Get("Form8"));
+    form.Show();
+    Open(form, run, "input.bcf");
+    CheckForm(form, run);
+    for (const char letter : input.substr(0, std::min(end, MostActs))) {
+        Act(form, run, letter);
+    }
+    return 0;
+}
