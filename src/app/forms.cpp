@@ -1,13 +1,17 @@
 // The forms of the program, by name. A calculator that stands here has its menu button and navigation items enabled.
 #include "app/forms.h"
 
+#include "boltcircle/form8.h"
 #include "frame/form11.h"
 #include "frame/form7.h"
 #include "frame/program.h"
+#include "oblique/form2.h"
 #include "polygon/form16.h"
+#include "righttri/form1.h"
 #include "services/minutesdialog.h"
 #include "services/rounddialog.h"
 #include "sineplate/form12.h"
+#include "speedsfeeds/form19.h"
 
 #include <memory>
 
@@ -26,8 +30,12 @@ void RegisterForms(Program& program) {
     Add<Form11>(program, "Form11");
     Add<Form7>(program, "Form7");
     Add<Form10>(program, "Form10");
+    Add<righttri::Form1>(program, "Form1");
+    Add<oblique::Form2>(program, "Form2");
+    Add<boltcircle::Form8>(program, "Form8");
     Add<sineplate::Form12>(program, "Form12");
     Add<polygon::Form16>(program, "Form16");
+    Add<speedsfeeds::Form19>(program, "Form19");
     for (const char* const name : {"Form5", "Form6", "Form9", "Form14"}) {
         program.Register(name, [name](Program& owner) { return MakeRoundNumbersDialog(owner, name); });
     }

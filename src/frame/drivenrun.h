@@ -44,7 +44,7 @@ struct DrivenRun {
 
     // What both runtimes do alike with the queues.
 
-    /// Records the box and takes the next queued answer that the box has a button for.
+    /// Records the box and takes the next queued answer, or the default one.
     Answer AnswerBox(const MessageBox& box);
     std::string AnswerInput();
     std::optional<std::string> AnswerFile(const DialogRequest& request);

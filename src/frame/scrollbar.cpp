@@ -5,6 +5,7 @@
 #include "frame/program.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace brindlex {
 
@@ -51,8 +52,15 @@ void ScrollBar::DragByPerson(int value) {
     const int taken = Within(value);
     if (taken != range_.value) {
         range_.value = taken;
+        dragged_ = true;
         Changed(Aspect::Value);
         Fire(Scroll, "Scroll");
+    }
+}
+
+void ScrollBar::ReleaseByPerson() {
+    if (std::exchange(dragged_, false)) {
+        Fire(Change, "Change");
     }
 }
 

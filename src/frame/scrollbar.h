@@ -33,8 +33,10 @@ public:
     /// While the thumb is dragged, before its Change.
     Event<> Scroll;
 
-    /// A person drags the thumb: Scroll with the new value; a step or the release: Change.
+    /// A person drags the thumb: Scroll with the new value.
     void DragByPerson(int value);
+    /// The thumb is let go: Change, where the drag moved it.
+    void ReleaseByPerson();
     void ActOnKey(int /*keyAscii*/) override {}
 
 protected:
@@ -54,6 +56,7 @@ private:
     Direction direction_;
     Range range_;
     Range design_;
+    bool dragged_ = false;
 };
 
 /// Fires its Timer event every Interval milliseconds while enabled. Holds while a box or a modal form is up.

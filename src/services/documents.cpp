@@ -29,10 +29,13 @@ void Prepare(CommonDialog& dialog, const std::string& filter, int flags) {
 std::optional<std::vector<std::string>> OpenDocument(CommonDialog& dialog, const std::string& filter,
                                                      std::size_t most) {
     Prepare(dialog, filter, OpenFlags);
+    const std::string before = dialog.FileName();
     try {
         dialog.ShowOpen();
         return ReadDocument(dialog.Parent().Owner().Files(), dialog.FileName(), most);
     } catch (const Fault&) {
+        // The title names the dialog's file, so one that was not read must not stay there.
+        dialog.FileName(before);
         return std::nullopt;
     }
 }
@@ -40,12 +43,15 @@ std::optional<std::vector<std::string>> OpenDocument(CommonDialog& dialog, const
 void SaveDocument(CommonDialog& dialog, const std::string& filter, const std::vector<std::string>& lines) {
     Prepare(dialog, filter, SaveFlags);
     Program& program = dialog.Parent().Owner();
+    const std::string before = dialog.FileName();
     try {
         dialog.ShowSave();
         WriteDocument(program.Files(), dialog.FileName(), lines);
     } catch (const Fault& fault) {
         if (fault.Number() != FaultNumber::DialogCancelled) {
-            program.BeepBox("The File Could Not Be Saved:\r\n" + dialog.FileName() + "\r\n" + fault.what());
+            const std::string refused = dialog.FileName();
+            dialog.FileName(before);
+            program.BeepBox("The File Could Not Be Saved:\r\n" + refused + "\r\n" + fault.what());
         }
     }
 }

@@ -293,6 +293,9 @@ TEST_F(FormTest, ScrollBarKeepsItsValueBetweenItsEndsEitherWayRound) {
     form->Bar1.DragByPerson(-30);
     EXPECT_EQ(form->Bar1.Value(), -20);
     EXPECT_EQ(Log(), (Lines{"Bar1_Scroll -20"}));
+    form->Bar1.ReleaseByPerson();
+    form->Bar1.ReleaseByPerson();
+    EXPECT_EQ(Log(), (Lines{"Bar1_Change -20"}));
 }
 
 TEST_F(FormTest, TimerFiresWhenDueAndHoldsWhileAModalFormIsUp) {

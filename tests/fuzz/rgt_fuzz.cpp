@@ -1,0 +1,138 @@
+// Right Triangles with arbitrary entries: the lines of the input are a case, two entries, and the menu items to choose
+// afterwards, a letter each. A triangle that is solved is whole and finite; whatever the entries hold, no handler lets
+// a fault out, and nothing that is shown holds an infinity.
+#include "app/forms.h"
+#include "frame/fault.h"
+#include "frame/program.h"
+#include "headless/headlessruntime.h"
+#include "righttri/form1.h"
+#include "righttri/solver.h"
+
+#include <stdlib.h>  // mkdtemp
+
+#include <array>
+#include <cmath>
+#include <cstddef>
+#include <cstdint>
+#include <cstdlib>
+#include <filesystem>
+#include <numbers>
+#include <string>
+#include <system_error>
+
+namespace {
+
+using namespace brindlex;
+using righttri::Form1;
+
+void Demand(bool holds) {
+    if (!holds) {
+        std::abort();
+    }
+}
+
+/// A folder that goes away with the fuzzer.
+class ScratchFolder {
+public:
+    ScratchFolder() {
+        std::string path = (std::filesystem::temp_directory_path() / "brindlex-fuzz-XXXXXX").string();
+        Demand(::mkdtemp(path.data()) != nullptr);
+        path_ = path;
+    }
+    ~ScratchFolder() {
+        std::error_code ignored;
+        std::filesystem::remove_all(path_, ignored);
+    }
+    ScratchFolder(const ScratchFolder&) = delete;
+    ScratchFolder& operator=(const ScratchFolder&) = delete;
+
+    [[nodiscard]] const std::filesystem::path& Path() const { return path_; }
+
+private:
+    std::filesystem::path path_;
+};
+
+using Lines = std::array<std::string, 4>;
+
+Lines LinesOf(const std::string& input) {
+    Lines lines;
+    std::size_t line = 0;
+    for (const char c : input) {
+        if (c == '\n' && line + 1 < lines.size()) {
+            ++line;
+        } else {
+            lines[line] += c;
+        }
+    }
+    return lines;
+}
+
+/// A digit stands for the case of that place in the list.
+std::string CaseOf(const std::string& line) {
+    const bool isPlace = line.size() == 1 && line[0] >= '1' && line[0] <= '9';
+    return isPlace ? std::string(righttri::Cases()[static_cast<std::size_t>(line[0] - '1')].Name) : line;
+}
+
+void CheckSolver(const Lines& lines) {
+    righttri::Entries entries{lines[1], lines[2]};
+    Guarded([&] {
+        const auto solution = righttri::Solve(CaseOf(lines[0]), entries, std::numbers::pi / 180);
+        if (solution.Refused != righttri::Refusal::None) {
+            return;
+        }
+        const righttri::Triangle& found = solution.Found;
+        for (const double value : {found.SideA, found.SideB, found.SideC, found.AngleB, found.AngleC}) {
+            Demand(std::isfinite(value));
+        }
+    });
+}
+
+void ChooseItems(Form1& form, const std::string& letters) {
+    const std::array<MenuItem*, 7> items = {
+        &form.DIDMS, &form.ShapeR, &form.TextOn, &form.Inches2Millimeters, &form.Millimeters2Inches,
+        &form.Copy,  &form.Paste};
+    for (const char letter : letters.substr(0, 12)) {
+        items[static_cast<unsigned char>(letter) % items.size()]->FireClick();
+        Demand(!form.Owner().Ended());
+    }
+}
+
+bool NamesNoNumber(const std::string& text) {
+    return text.find("inf") != std::string::npos || text.find("nan") != std::string::npos;
+}
+
+void CheckShown(const Form1& form, const Lines& lines) {
+    // An entry that holds such a word shows in its box as it stands.
+    if (!NamesNoNumber(lines[1]) && !NamesNoNumber(lines[2])) {
+        for (const TextBox* const box : {&form.Text4, &form.Text5, &form.Text6, &form.Text7, &form.Text8}) {
+            Demand(!NamesNoNumber(box->Text()));
+        }
+    }
+    for (const DrawItem& item : form.Picture1.Drawn().Items()) {
+        Demand(std::isfinite(item.X1) && std::isfinite(item.Y1) && std::isfinite(item.X2) && std::isfinite(item.Y2));
+    }
+}
+
+}  // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+    const Lines lines = LinesOf(std::string(data, data + size));
+    CheckSolver(lines);
+
+    static const ScratchFolder scratch;
+    DrivenRun run;
+    HeadlessRuntime runtime(run, {1024, 768});
+    Program program(runtime, Folder(scratch.Path()));
+    RegisterForms(program);
+    auto& form = dynamic_cast<Form1&>(program.Get("Form1"));
+    form.Show();
+    form.Combo1.Text(CaseOf(lines[0]));
+    form.Text1.Text(lines[1]);
+    form.Text2.Text(lines[2]);
+    form.Command1.Value(true);
+    Demand(!program.Ended());
+    CheckShown(form, lines);
+    ChooseItems(form, lines[3]);
+    CheckShown(form, lines);
+    return 0;
+}
