@@ -15,8 +15,8 @@ namespace brindlex::boltcircle {
 
 namespace {
 
-constexpr const char* FileFilter = "Bolt Circle Files(*.bcf)|*.bcf";
-constexpr std::size_t DocumentLines = 6;
+// A disk that refuses a save ends it without a word: intended.
+constexpr DocumentKind Document{.Filter = "Bolt Circle Files(*.bcf)|*.bcf", .MostLines = 6, .FailedSaveIsTold = false};
 constexpr std::string_view EntryNames[] = {"Text1", "Text2", "Text3", "Text4", "Text5"};
 constexpr std::string_view PastedNames[] = {"Text1", "Text2", "Text3", "Text4", "Text5", "Text6"};
 constexpr std::string_view AllDecimals = ".000000000000000";
@@ -132,7 +132,7 @@ void Form8::Picture1_MouseUp(const Mouse& mouse) {
 // Documents.
 
 void Form8::OpenFile_Click() {
-    if (const auto lines = OpenDocument(CommonDialog1, FileFilter, DocumentLines)) {
+    if (const auto lines = OpenDocument(CommonDialog1, Document)) {
         TakeDocument(*lines);
         Command1.Value(true);
     }
@@ -158,7 +158,7 @@ void Form8::SaveFileAs_Click() {
         lines.push_back(box->Text());
     }
     lines.push_back(PrintLine().Number(Check1.Value()).Str());
-    SaveDocument(CommonDialog1, FileFilter, lines);
+    SaveDocument(CommonDialog1, Document, lines);
 }
 
 // Paper.

@@ -85,16 +85,26 @@ void EditControl::ActOnKey(int keyAscii) {
         }
     }
     if (keyAscii == Backspace) {
-        if (!edit_.locked && edit_.selLength == 0 && edit_.selStart > 0) {
-            SelectByPerson(edit_.selStart - 1, 1);
-        }
-        DeleteByPerson();
+        EraseBackwards();
     } else if (keyAscii == 13 && MultiLine()) {
         InsertByPerson("\r\n");
     } else if (keyAscii >= FirstPrintable) {
         const char character = static_cast<char>(keyAscii);
         InsertByPerson({&character, 1});
     }
+}
+
+void EditControl::EraseBackwards() {
+    if (edit_.locked) {
+        return;
+    }
+    if (edit_.selLength == 0) {
+        if (edit_.selStart == 0) {
+            return;
+        }
+        SelectByPerson(edit_.selStart - 1, 1);
+    }
+    Replace({});
 }
 
 void EditControl::Replace(std::string_view text) {

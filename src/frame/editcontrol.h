@@ -57,6 +57,7 @@ protected:
 
 private:
     void Replace(std::string_view text);
+    void EraseBackwards();
 
     struct Edit {
         std::string text;

@@ -19,8 +19,18 @@ namespace {
 
 constexpr const char* SettingsFile = "brindr.ini";
 constexpr std::array<std::string_view, 4> SettingsKeys = {"DMS=", "Shape=", "Text=", "Rounding="};
-constexpr const char* DocumentFilter = "Right Triangle Files(*.rgt)|*.rgt";
-constexpr std::size_t DocumentLines = 3;
+
+bool BeginsWithACase(const std::vector<std::string>& lines) {
+    return lines.empty() || FindCase(lines.front());
+}
+
+// A disk that refuses a save ends it without a word: intended.
+constexpr DocumentKind Document{"Right Triangle Files(*.rgt)|*.rgt",
+                                3,
+                                BeginsWithACase,
+                                "This Is Not A Right Triangle File!",
+                                style::Exclamation,
+                                false};
 
 constexpr std::array<std::string_view, 8> BoxesToCopy = {"Text1", "Text2", "Text3", "Text4",
                                                          "Text5", "Text6", "Text7", "Text8"};
@@ -31,11 +41,6 @@ constexpr std::string_view ConvertedMask = ".000000000000000";
 
 std::string FlagText(const MenuItem& item) {
     return item.Checked() ? "-1" : "0";
-}
-
-/// A pasted entry may hold line ends, behind which nothing of it counts; in a file they would part it.
-std::string FirstLine(const std::string& text) {
-    return text.substr(0, text.find_first_of("\r\n"));
 }
 
 }  // namespace
@@ -193,14 +198,8 @@ void Form1::NewFile() {
 // Documents.
 
 void Form1::OPenFile_Click() {
-    const auto lines = OpenDocument(CommonDialog1, DocumentFilter, DocumentLines);
+    const auto lines = OpenDocument(CommonDialog1, Document);
     if (!lines) {
-        return;
-    }
-    // Another kind of file is refused before it takes the place of what was entered.
-    if (!lines->empty() && !FindCase(lines->front())) {
-        CommonDialog1.FileName("");
-        Owner().BeepBox("This Is Not A Right Triangle File!");
         return;
     }
     if (!lines->empty()) {
@@ -221,7 +220,7 @@ void Form1::SaveFileAs_Click() {
             return;
         }
     }
-    SaveDocument(CommonDialog1, DocumentFilter, {Combo1.Text(), FirstLine(Text1.Text()), FirstLine(Text2.Text())});
+    SaveDocument(CommonDialog1, Document, {Combo1.Text(), Text1.Text(), Text2.Text()});
 }
 
 // Paper.

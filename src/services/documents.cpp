@@ -9,6 +9,7 @@
 
 #include <algorithm>
 #include <cctype>
+#include <iterator>
 
 namespace brindlex {
 
@@ -18,42 +19,55 @@ namespace {
 constexpr int OpenFlags = 12;
 constexpr int SaveFlags = 14;
 
-void Prepare(CommonDialog& dialog, const std::string& filter, int flags) {
+void Prepare(CommonDialog& dialog, const DocumentKind& kind, int flags) {
     dialog.CancelError(true);
     dialog.Flags(flags);
-    dialog.Filter(filter);
+    dialog.Filter(kind.Filter);
 }
 
 }  // namespace
 
-std::optional<std::vector<std::string>> OpenDocument(CommonDialog& dialog, const std::string& filter,
-                                                     std::size_t most) {
-    Prepare(dialog, filter, OpenFlags);
+std::optional<std::vector<std::string>> OpenDocument(CommonDialog& dialog, const DocumentKind& kind) {
+    Prepare(dialog, kind, OpenFlags);
+    Program& program = dialog.Parent().Owner();
     const std::string before = dialog.FileName();
     try {
         dialog.ShowOpen();
-        return ReadDocument(dialog.Parent().Owner().Files(), dialog.FileName(), most);
+        auto lines = ReadDocument(program.Files(), dialog.FileName(), kind.MostLines);
+        if (kind.Belongs == nullptr || kind.Belongs(lines)) {
+            return lines;
+        }
     } catch (const Fault&) {
         // The title names the dialog's file, so one that was not read must not stay there.
         dialog.FileName(before);
         return std::nullopt;
     }
+    dialog.FileName(before);
+    program.BeepBox(kind.Refusal, kind.RefusalStyle);
+    return std::nullopt;
 }
 
-void SaveDocument(CommonDialog& dialog, const std::string& filter, const std::vector<std::string>& lines) {
-    Prepare(dialog, filter, SaveFlags);
+void SaveDocument(CommonDialog& dialog, const DocumentKind& kind, const std::vector<std::string>& lines) {
+    Prepare(dialog, kind, SaveFlags);
     Program& program = dialog.Parent().Owner();
     const std::string before = dialog.FileName();
+    std::vector<std::string> whole;
+    std::transform(lines.begin(), lines.end(), std::back_inserter(whole),
+                   [](const std::string& line) { return FirstLine(line); });
     try {
         dialog.ShowSave();
-        WriteDocument(program.Files(), dialog.FileName(), lines);
+        WriteDocument(program.Files(), dialog.FileName(), whole);
     } catch (const Fault& fault) {
-        if (fault.Number() != FaultNumber::DialogCancelled) {
-            const std::string refused = dialog.FileName();
-            dialog.FileName(before);
+        const std::string refused = dialog.FileName();
+        dialog.FileName(before);
+        if (kind.FailedSaveIsTold && fault.Number() != FaultNumber::DialogCancelled) {
             program.BeepBox("The File Could Not Be Saved:\r\n" + refused + "\r\n" + fault.what());
         }
     }
+}
+
+std::string FirstLine(std::string_view text) {
+    return std::string(text.substr(0, text.find_first_of("\r\n")));
 }
 
 std::string BooleanWord(bool value) {

@@ -224,6 +224,16 @@ TEST_F(FormTest, EditingReplacesTheSelectionAndKnowsTheClipboard) {
     EXPECT_EQ(form->Text1.Text(), "");
 }
 
+TEST_F(FormTest, BackspaceAtTheStartTakesNothing) {
+    form->Show();
+    form->Text1.Text("12");
+    form->TypeByPerson(form->Text1, 8);
+    EXPECT_EQ(form->Text1.Text(), "12");
+    form->Text1.SelStart(1);
+    form->TypeByPerson(form->Text1, 8);
+    EXPECT_EQ(form->Text1.Text(), "2");
+}
+
 TEST_F(FormTest, LockedBoxTakesNothing) {
     form->Show();
     form->Text1.Text("12");
