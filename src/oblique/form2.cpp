@@ -28,6 +28,7 @@ std::string FlagText(bool value) {
 
 Form2::Form2(Program& program) : Form(program, "Form2", 7392, 5352) {
     Command1.Default(true);
+    Combo1.ListOnly(true);
     Label4.Transparent(true);
     Label5.Transparent(true);
     Label5.AutoSize(true);

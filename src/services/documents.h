@@ -32,14 +32,6 @@ struct DocumentKind {
 /// leaves the old file whole.
 void SaveDocument(CommonDialog& dialog, const DocumentKind& kind, const std::vector<std::string>& lines);
 
-[[nodiscard]] inline std::optional<std::vector<std::string>> OpenDocument(CommonDialog& dialog, const char* filter,
-                                                                          std::size_t most) {
-    return OpenDocument(dialog, DocumentKind{.Filter = filter, .MostLines = most});
-}
-inline void SaveDocument(CommonDialog& dialog, const char* filter, const std::vector<std::string>& lines) {
-    SaveDocument(dialog, DocumentKind{.Filter = filter}, lines);
-}
-
 /// What stands before the first line end: a pasted entry may hold one, which in a file would part it.
 [[nodiscard]] std::string FirstLine(std::string_view text);
 
