@@ -1,0 +1,42 @@
+// The script driver on the real windows, of any platform that the window system knows.
+#include "app/forms.h"
+#include "desktop/desktopplayer.h"
+#include "desktop/desktopruntime.h"
+#include "headless/driver.h"
+
+#include <QApplication>
+
+#include <cstdio>
+#include <memory>
+
+using namespace brindlex;
+
+namespace {
+
+// The platforms without a screen say of each window what they cannot do with it, which no script asks for.
+void TellWarnings(QtMsgType /*type*/, const QMessageLogContext& /*context*/, const QString& words) {
+    if (!words.startsWith(QStringLiteral("This plugin does not support"))) {
+        std::fprintf(stderr, "%s\n", qPrintable(words));
+    }
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    qInstallMessageHandler(TellWarnings);
+    QApplication::setStyle(QStringLiteral("Fusion"));
+    const QApplication application(argc, argv);
+    QApplication::setQuitOnLastWindowClosed(false);
+    DriverParts parts;
+    parts.MakeRuntime = [](DrivenRun& run, Size screen) -> std::unique_ptr<Runtime> {
+        auto runtime = std::make_unique<DesktopRuntime>(run, screen);
+        // Where somebody wants to see them, the pages that a script prints are kept as files.
+        runtime->PrintInto(qEnvironmentVariable("BRINDLEX_PRINTS"));
+        return runtime;
+    };
+    parts.MakePlayer = [](Runtime& runtime, DrivenRun& /*run*/) -> std::unique_ptr<Player> {
+        return std::make_unique<DesktopPlayer>(dynamic_cast<DesktopRuntime&>(runtime));
+    };
+    parts.RegisterForms = RegisterForms;
+    return RunDriver(argc, argv, parts);
+}

@@ -1,0 +1,49 @@
+// The program: one run in one working directory.
+#include "app/endsignals.h"
+#include "app/forms.h"
+#include "app/onlyone.h"
+#include "app/workplace.h"
+#include "desktop/desktopruntime.h"
+#include "frame/form.h"
+#include "frame/program.h"
+
+#include <QApplication>
+
+using namespace brindlex;
+
+namespace {
+
+// Ends as the menu's close box does: settings are kept, the live drawing goes.
+void EndInOrder(Program& program) {
+    program.Run("Program", "Terminate", [&] {
+        if (Form* const menu = program.Find("Form11"); menu != nullptr && menu->Loaded()) {
+            menu->Unload();
+        }
+        program.End();
+    });
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    QApplication::setApplicationName(QStringLiteral("brindlex"));
+    QApplication::setDesktopFileName(QStringLiteral("brindlex"));
+    const std::filesystem::path folder = Workplace();
+    OnlyOne onlyOne(folder);
+    if (onlyOne.CalledFirst()) {
+        return 0;
+    }
+    EndSignals endSignals;
+    QApplication::setStyle(QStringLiteral("Fusion"));
+    const QApplication application(argc, argv);
+    QApplication::setQuitOnLastWindowClosed(false);
+
+    DesktopRuntime runtime;
+    runtime.StartDialogsIn(QString::fromStdString(folder.string()));
+    Program program(runtime, Folder(folder));
+    RegisterForms(program);
+    onlyOne.WhenCalled([&] { runtime.BringForward(); });
+    endSignals.WhenTold([&] { EndInOrder(program); });
+    program.Start();
+    return program.Ended() ? 0 : QApplication::exec();
+}

@@ -1,0 +1,250 @@
+// Windows of forms.
+#include "desktop/formwindow.h"
+
+#include "desktop/accessiblenames.h"
+#include "desktop/looks.h"
+#include "desktop/pixels.h"
+#include "desktop/texts.h"
+
+#include <QCloseEvent>
+#include <QKeyEvent>
+#include <QMenuBar>
+#include <QMouseEvent>
+#include <QRegion>
+
+namespace brindlex {
+
+namespace {
+
+constexpr double InsidePoints = 8.25;
+
+Qt::WindowFlags FlagsOf(const Form& form) {
+    const Qt::WindowFlags kind = form.DialogOf().empty() ? Qt::Window : Qt::Dialog;
+    Qt::WindowFlags flags =
+        kind | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowSystemMenuHint | Qt::WindowCloseButtonHint;
+    if (kind == Qt::Window) {
+        flags |= Qt::WindowMinimizeButtonHint;
+    }
+    if (form.Sizable()) {
+        flags |= Qt::WindowMaximizeButtonHint;
+    }
+    return flags;
+}
+
+}  // namespace
+
+FormWindow::FormWindow(Form& form, Mirror& mirror, Hands hands)
+    : QWidget(nullptr, FlagsOf(form)),
+      form_(form),
+      mirror_(mirror),
+      hands_(hands),
+      client_(new QWidget(this)),
+      menus_(*this) {
+    const Mirror::Write write(mirror_);
+    client_->setFont(ScreenFont("Arial", InsidePoints, false));
+    client_->setMouseTracking(true);
+    client_->installEventFilter(this);
+    BuildPeers(form_);
+    NameForReaders(*this);
+    MirrorForm();
+    SyncFocus();
+}
+
+FormWindow::~FormWindow() {
+    // Widgets go while what they might still call is there.
+    released_ = true;
+    delete client_;
+}
+
+void FormWindow::Release() {
+    released_ = true;
+    hide();
+    deleteLater();
+}
+
+void FormWindow::BuildPeers(ControlContainer& container) {
+    for (Control* const control : container.Children()) {
+        auto peer = MakePeer(*this, *control);
+        if (peer == nullptr) {
+            continue;
+        }
+        peer->MirrorAspect(Aspect::All);
+        peers_[control] = std::move(peer);
+        if (auto* const inner = dynamic_cast<ControlContainer*>(control)) {
+            BuildPeers(*inner);
+        }
+    }
+}
+
+QWidget* FormWindow::Inside(ControlContainer& container) const {
+    const Control* const control = container.ContainerControl();
+    const Peer* const peer = control == nullptr ? nullptr : PeerOf(*control);
+    return peer == nullptr ? client_ : peer->Widget();
+}
+
+Peer* FormWindow::PeerOf(const Control& control) const {
+    const auto found = peers_.find(&control);
+    return found == peers_.end() ? nullptr : found->second.get();
+}
+
+QSize FormWindow::SizeFor(double innerWidth, double innerHeight) const {
+    return {Pixels(innerWidth), Pixels(innerHeight) + menus_.BarHeight()};
+}
+
+void FormWindow::MirrorForm() {
+    const Mirror::Write write(mirror_);
+    setWindowTitle(FromText(form_.Caption()));
+    const QSize size = SizeFor(form_.InnerWidth(), form_.InnerHeight());
+    if (!form_.Sizable()) {
+        setFixedSize(size);
+    } else if (this->size() != size) {
+        resize(size);
+    }
+    LayInside();
+    const QPoint corner(Pixels(form_.Left()), Pixels(form_.Top()));
+    if (pos() != corner) {
+        move(corner);
+    }
+}
+
+void FormWindow::LayInside() {
+    const int bar = menus_.LayBar(width());
+    client_->setGeometry(0, bar, width(), height() - bar);
+}
+
+void FormWindow::MirrorControl(Control& control, Aspect aspect) {
+    const Mirror::Write write(mirror_);
+    if (aspect == Aspect::Focus) {
+        SyncFocus();
+        return;
+    }
+    if (aspect == Aspect::Default) {
+        // Making one button the default takes it from another, of which the surface says nothing.
+        for (const auto& [other, peer] : peers_) {
+            peer->MirrorAspect(aspect);
+        }
+        return;
+    }
+    if (Peer* const peer = PeerOf(control)) {
+        peer->MirrorAspect(aspect);
+        if (aspect == Aspect::Caption) {
+            NameForReaders(*this);
+        }
+    }
+}
+
+void FormWindow::SyncFocus() {
+    const Mirror::Write write(mirror_);
+    const InputControl* const active = form_.ActiveControl();
+    const Peer* const peer = active == nullptr ? nullptr : PeerOf(*active);
+    QWidget* const has = focusWidget();
+    if (peer != nullptr && peer->Widget() != nullptr) {
+        if (has != peer->Widget()) {
+            peer->Widget()->setFocus(Qt::OtherFocusReason);
+        }
+    } else if (has != nullptr && has != this) {
+        has->clearFocus();
+    }
+}
+
+void FormWindow::CutTo(const QRect& ellipse) {
+    const QRegion region(ellipse, QRegion::Ellipse);
+    const QRegion whole(rect());
+    if (whole.subtracted(region).isEmpty()) {
+        clearMask();
+    } else {
+        setMask(region);
+    }
+}
+
+void FormWindow::DragTo(double innerWidth, double innerHeight) {
+    {
+        const Mirror::Write write(mirror_);
+        resize(SizeFor(innerWidth, innerHeight));
+        LayInside();
+    }
+    form_.ResizeByPerson(innerWidth, innerHeight);
+}
+
+void FormWindow::changeEvent(QEvent* event) {
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::PaletteChange && !released_) {
+        // The system has gone from light to dark, or back.
+        const Mirror::Write write(mirror_);
+        for (const auto& [control, peer] : peers_) {
+            peer->MirrorAspect(Aspect::Look);
+        }
+    }
+}
+
+void FormWindow::closeEvent(QCloseEvent* event) {
+    // The surface decides what the close box does.
+    event->ignore();
+    ByPerson([this] { form_.CloseByPerson(); });
+}
+
+void FormWindow::resizeEvent(QResizeEvent* event) {
+    QWidget::resizeEvent(event);
+    LayInside();
+    // The window system also tells of sizes that the program has set itself.
+    if (!Deaf() && form_.Visible() && size() != SizeFor(form_.InnerWidth(), form_.InnerHeight())) {
+        form_.ResizeByPerson(Twips(client_->width()), Twips(client_->height()));
+    }
+}
+
+void FormWindow::moveEvent(QMoveEvent* event) {
+    QWidget::moveEvent(event);
+    if (!Deaf() && hands_ == Hands::Person && isVisible() && !isMinimized()) {
+        form_.MoveByPerson(Twips(pos().x()), Twips(pos().y()));
+    }
+}
+
+// Enter and Escape find their buttons also while no control has the focus, or one that has no use for them.
+void FormWindow::keyPressEvent(QKeyEvent* event) {
+    const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    CommandButton* const button = enter                            ? form_.DefaultButton()
+                                  : event->key() == Qt::Key_Escape ? form_.CancelButton()
+                                                                   : nullptr;
+    if (button != nullptr && button->IsUsable()) {
+        ByPerson([button] { button->PressByPerson(); });
+    } else {
+        event->ignore();
+    }
+}
+
+bool FormWindow::focusNextPrevChild(bool next) {
+    if (Deaf()) {
+        // A widget that was disabled or hidden hands its focus on to nobody.
+        return false;
+    }
+    form_.TabByPerson(!next);
+    SyncFocus();
+    return true;
+}
+
+bool FormWindow::eventFilter(QObject* watched, QEvent* event) {
+    const QEvent::Type type = event->type();
+    const bool mouse =
+        type == QEvent::MouseMove || type == QEvent::MouseButtonPress || type == QEvent::MouseButtonRelease;
+    if (watched == client_ && mouse) {
+        ByPerson([&] { ClientMouse(*static_cast<QMouseEvent*>(event)); });
+        return true;
+    }
+    return QWidget::eventFilter(watched, event);
+}
+
+void FormWindow::ClientMouse(const QMouseEvent& event) {
+    const double perTwip = form_.InnerWidth() == 0 ? 1 : form_.ScaleWidth() / form_.InnerWidth();
+    const bool moves = event.type() == QEvent::MouseMove;
+    const Mouse mouse{moves ? HeldButton(event) : ButtonOf(event), ShiftState(event),
+                      Twips(event.position().x()) * perTwip, Twips(event.position().y()) * perTwip};
+    if (moves) {
+        form_.MouseMoveByPerson(mouse);
+    } else if (event.type() == QEvent::MouseButtonPress) {
+        form_.MouseDownByPerson(mouse);
+    } else {
+        form_.MouseUpByPerson(mouse);
+    }
+}
+
+}  // namespace brindlex

@@ -1,0 +1,143 @@
+// One line of text.
+#include "desktop/linebox.h"
+
+#include "desktop/editkeys.h"
+#include "desktop/formwindow.h"
+#include "desktop/texts.h"
+
+#include <QApplication>
+#include <QClipboard>
+#include <QDropEvent>
+#include <QInputMethodEvent>
+#include <QMenu>
+#include <QMimeData>
+
+#include <limits>
+
+namespace brindlex {
+
+LineBox::LineBox(QWidget* parent, FormWindow& window, EditControl& box)
+    : QLineEdit(parent), window_(window), box_(box) {
+    setMaxLength(std::numeric_limits<int>::max());
+    setDragEnabled(false);
+    connect(this, &QLineEdit::selectionChanged, this, [this] { TakeSelection(); });
+    connect(this, &QLineEdit::cursorPositionChanged, this, [this] { TakeSelection(); });
+    connect(this, &QLineEdit::textEdited, this, [this](const QString& changed) {
+        TakeChange(window_, box_, changed);
+        const Mirror::Write write(window_.Flag());
+        MirrorText();
+    });
+}
+
+void LineBox::MirrorText() {
+    const QString shown = FromText(box_.Text());
+    if (text() != shown) {
+        setText(shown);
+    }
+    MirrorSelection();
+}
+
+void LineBox::MirrorSelection() {
+    if (box_.SelLength() > 0) {
+        setSelection(box_.SelStart(), box_.SelLength());
+    } else {
+        deselect();
+        setCursorPosition(box_.SelStart());
+    }
+}
+
+int LineBox::SeenStart() const {
+    return hasSelectedText() ? selectionStart() : cursorPosition();
+}
+
+int LineBox::SeenLength() const {
+    return hasSelectedText() ? selectionLength() : 0;
+}
+
+void LineBox::TakeSelection() {
+    // While an edit of the widget's own is on its way, the two texts differ; the surface will say.
+    if (!window_.Deaf() && text() == FromText(box_.Text())) {
+        box_.SelectByPerson(SeenStart(), SeenLength());
+    }
+}
+
+bool LineBox::event(QEvent* event) {
+    if (event->type() == QEvent::ShortcutOverride && ClaimsKey(*static_cast<QKeyEvent*>(event))) {
+        // Ctrl+V comes to the box and not to a menu.
+        event->accept();
+        return true;
+    }
+    return QLineEdit::event(event);
+}
+
+void LineBox::keyPressEvent(QKeyEvent* event) {
+    switch (RouteKey(window_, box_, *event)) {
+        case KeyRoute::Surface:
+            event->accept();
+            break;
+        case KeyRoute::Widget:
+            QLineEdit::keyPressEvent(event);
+            break;
+        case KeyRoute::Nobody:
+            event->ignore();
+            break;
+    }
+}
+
+void LineBox::contextMenuEvent(QContextMenuEvent* event) {
+    window_.ByPerson([&] { EditMenu(this, window_, box_)->popup(event->globalPos()); });
+}
+
+void LineBox::dropEvent(QDropEvent* event) {
+    if (event->mimeData()->hasText()) {
+        setCursorPosition(cursorPositionAt(event->position().toPoint()));
+        InsertText(window_, box_, event->mimeData()->text());
+        event->acceptProposedAction();
+    }
+}
+
+void LineBox::inputMethodEvent(QInputMethodEvent* event) {
+    TypeText(window_, box_, event->commitString());
+    QInputMethodEvent uncommitted(event->preeditString(), event->attributes());
+    QLineEdit::inputMethodEvent(&uncommitted);
+}
+
+void LineBox::KeepSelectionOverPress() {
+    pressHeld_ = box_.SelLength() > 0;
+}
+
+void LineBox::mousePressEvent(QMouseEvent* event) {
+    pressPlace_ = event->position().toPoint();
+    if (!pressHeld_) {
+        QLineEdit::mousePressEvent(event);
+    }
+}
+
+void LineBox::mouseMoveEvent(QMouseEvent* event) {
+    if (pressHeld_ && (event->buttons() & Qt::LeftButton) != 0) {
+        const int distance = (event->position().toPoint() - pressPlace_).manhattanLength();
+        if (distance < QApplication::startDragDistance()) {
+            return;
+        }
+        // A drag after all: it selects from where it began.
+        pressHeld_ = false;
+        setCursorPosition(cursorPositionAt(pressPlace_));
+    }
+    QLineEdit::mouseMoveEvent(event);
+}
+
+void LineBox::mouseReleaseEvent(QMouseEvent* event) {
+    if (pressHeld_) {
+        pressHeld_ = false;
+        return;
+    }
+    const QClipboard* const clipboard = QGuiApplication::clipboard();
+    if (event->button() == Qt::MiddleButton && clipboard->supportsSelection()) {
+        setCursorPosition(cursorPositionAt(event->position().toPoint()));
+        InsertText(window_, box_, clipboard->text(QClipboard::Selection));
+        return;
+    }
+    QLineEdit::mouseReleaseEvent(event);
+}
+
+}  // namespace brindlex

@@ -1,0 +1,44 @@
+// The widget of one line of text: it shows, selects and moves the caret by itself, and edits nothing; the surface does.
+#pragma once
+
+#include "frame/editcontrol.h"
+
+#include <QLineEdit>
+#include <QPoint>
+
+namespace brindlex {
+
+class FormWindow;
+
+class LineBox : public QLineEdit {
+public:
+    LineBox(QWidget* parent, FormWindow& window, EditControl& box);
+
+    /// Writes text or selection of the box into the widget.
+    void MirrorText();
+    void MirrorSelection();
+    /// The press that brought the focus leaves alone what its GotFocus has selected.
+    void KeepSelectionOverPress();
+    [[nodiscard]] int SeenStart() const;
+    [[nodiscard]] int SeenLength() const;
+
+protected:
+    bool event(QEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void contextMenuEvent(QContextMenuEvent* event) override;
+    void dropEvent(QDropEvent* event) override;
+    void inputMethodEvent(QInputMethodEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+
+private:
+    void TakeSelection();
+
+    FormWindow& window_;
+    EditControl& box_;
+    bool pressHeld_ = false;
+    QPoint pressPlace_;
+};
+
+}  // namespace brindlex

@@ -1,0 +1,33 @@
+// The peer of a picture box, and its widget.
+#pragma once
+
+#include "desktop/peer.h"
+#include "frame/picturebox.h"
+
+#include <QWidget>
+
+namespace brindlex {
+
+/// White, with a thin border; paints the display list afresh each time, so that it is sharp at any size.
+class PictureArea : public QWidget {
+public:
+    PictureArea(QWidget* parent, const FormWindow& window, const PictureBox& picture);
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    const FormWindow& window_;
+    const PictureBox& picture_;
+};
+
+class PicturePeer : public Peer {
+public:
+    PicturePeer(FormWindow& window, PictureBox& picture);
+
+protected:
+    void MirrorOwn(Aspect aspect) override;
+    [[nodiscard]] bool RelaysMouse() const override { return true; }
+};
+
+}  // namespace brindlex

@@ -1,0 +1,38 @@
+// Text conversion.
+#include "desktop/texts.h"
+
+#include "frame/textfile.h"
+
+namespace brindlex {
+
+QString FromText(std::string_view text) {
+    return QString::fromStdString(Utf8FromText(text));
+}
+
+QString FromLines(std::string_view text) {
+    QString lines = FromText(text);
+    lines.replace(QStringLiteral("\r\n"), QStringLiteral("\n"));
+    return lines;
+}
+
+std::string ToText(const QString& text) {
+    return TextFromUtf8(text.toStdString());
+}
+
+std::optional<std::string> ToExactText(const QString& text) {
+    std::string exact = ToText(text);
+    if (FromText(exact) != text) {
+        return std::nullopt;
+    }
+    return exact;
+}
+
+std::optional<int> KeyCodeOf(QChar character) {
+    const auto text = ToExactText(QString(character));
+    if (!text || text->size() != 1) {
+        return std::nullopt;
+    }
+    return static_cast<unsigned char>(text->front());
+}
+
+}  // namespace brindlex
