@@ -186,6 +186,17 @@ TEST(Rewrite, ADeviceIsWrittenToWhereItStands) {
     EXPECT_EQ(folder.Names(), (Names{"full", "null"}));
 }
 
+TEST(Rewrite, ADeviceIsNotReadFrom) {
+    const TestFolder folder;
+    if (!fs::exists("/dev/zero")) {
+        GTEST_SKIP() << "no /dev/zero here";
+    }
+    fs::create_symlink("/dev/zero", folder.Path() / "zeros");
+    for (const char* const device : {"/dev/zero", "zeros"}) {
+        EXPECT_EQ(FaultOf([&] { static_cast<void>(folder.Files().OpenInput(device)); }), FaultNumber::FileIo) << device;
+    }
+}
+
 TEST(Rewrite, LeavesAForeignScratchFileAlone) {
     const TestFolder folder;
     const std::string taken = ".brindlex-" + std::to_string(::getpid()) + "-0.tmp";

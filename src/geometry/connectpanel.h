@@ -1,0 +1,55 @@
+// The panel that connects two entities, named by number or by clicks on the picture.
+// Units: places in twips.
+#pragma once
+
+#include "frame/buttons.h"
+#include "frame/label.h"
+#include "frame/textbox.h"
+#include "geometry/panelplace.h"
+#include "geometry/session.h"
+
+#include <array>
+
+namespace brindlex::geometry {
+
+class ConnectPanel : public Frame {
+public:
+    ConnectPanel(ControlContainer& form, Session& work);
+
+    Frame Frame5{*this, "Frame5", {120, 225, 1980, 1155}, "Connect"};
+    OptionButton Option1{Frame5, "Option1", {120, 225, 930, 270}, "&Circle"};
+    TextBox Text12{Frame5, "Text12", {1080, 225, 780, 270}};
+    OptionButton Option2{Frame5, "Option2", {120, 525, 930, 270}, "&Line"};
+    TextBox Text13{Frame5, "Text13", {1080, 525, 780, 270}};
+    OptionButton Option3{Frame5, "Option3", {120, 825, 930, 270}, "P&oint"};
+    TextBox Text14{Frame5, "Text14", {1080, 825, 780, 270}};
+    Frame Frame6{*this, "Frame6", {2160, 225, 1980, 1155}, "To"};
+    OptionButton Option4{Frame6, "Option4", {120, 225, 930, 270}, "C&ircle"};
+    TextBox Text15{Frame6, "Text15", {1080, 225, 780, 270}};
+    OptionButton Option5{Frame6, "Option5", {120, 525, 930, 270}, "Li&ne"};
+    TextBox Text16{Frame6, "Text16", {1080, 525, 780, 270}};
+    OptionButton Option6{Frame6, "Option6", {120, 825, 930, 270}, "Poin&t"};
+    TextBox Text17{Frame6, "Text17", {1080, 825, 780, 270}};
+    Frame Frame7{*this, "Frame7", {4200, 225, 1050, 1155}, "Keep"};
+    CommandButton Command4{Frame7, "Command4", {75, 270, 435, 375}};
+    CommandButton Command5{Frame7, "Command5", {540, 270, 435, 375}};
+    CommandButton Command6{Frame7, "Command6", {75, 690, 435, 375}};
+    CommandButton Command7{Frame7, "Command7", {540, 690, 435, 375}};
+
+    [[nodiscard]] std::array<TextBox*, 6> Boxes() { return {&Text12, &Text13, &Text14, &Text15, &Text16, &Text17}; }
+    [[nodiscard]] std::array<OptionButton*, 6> Options() {
+        return {&Option1, &Option2, &Option3, &Option4, &Option5, &Option6};
+    }
+    [[nodiscard]] std::array<CommandButton*, 4> KeepButtons() { return {&Command4, &Command5, &Command6, &Command7}; }
+
+    /// What the boxes name; 0 for an empty one.
+    [[nodiscard]] std::array<double, 6> NamedNumbers() const;
+    void ClearBoxes();
+    /// No option set; the boxes empty, locked and disabled.
+    void Rest();
+
+private:
+    Session& work_;
+};
+
+}  // namespace brindlex::geometry
