@@ -2,6 +2,7 @@
 #include "desktop/menutree.h"
 
 #include "desktop/formwindow.h"
+#include "desktop/looks.h"
 #include "desktop/texts.h"
 
 #include <QAction>
@@ -10,6 +11,12 @@
 
 namespace brindlex {
 
+namespace {
+
+constexpr double MenuPoints = 9;
+
+}  // namespace
+
 MenuTree::MenuTree(FormWindow& window) : window_(window) {
     const auto& menus = window.Surface().Menus();
     if (menus.empty()) {
@@ -17,6 +24,7 @@ MenuTree::MenuTree(FormWindow& window) : window_(window) {
     }
     bar_ = new QMenuBar(&window);
     bar_->setNativeMenuBar(false);
+    bar_->setFont(ScreenFont("Arial", MenuPoints, false));
     for (MenuItem* const menu : menus) {
         if (menu->Items().empty()) {
             AddItem(*menu, nullptr);
@@ -28,6 +36,7 @@ MenuTree::MenuTree(FormWindow& window) : window_(window) {
 
 void MenuTree::AddMenu(MenuItem& menu, QMenu* within) {
     auto* const shown = new QMenu(within == nullptr ? static_cast<QWidget*>(bar_) : within);
+    shown->setFont(bar_->font());
     actions_[&menu] = within == nullptr ? bar_->addMenu(shown) : within->addMenu(shown);
     if (within == nullptr) {
         QObject::connect(shown, &QMenu::aboutToShow, &window_, [this, &menu] { Opens(menu); });
@@ -63,7 +72,9 @@ void MenuTree::MirrorItem(MenuItem& item) {
         return;
     }
     const Mirror::Write write(window_.Flag());
-    action->setText(FromText(item.Caption()));
+    if (!item.IsSeparator()) {
+        action->setText(FromText(item.Caption()));
+    }
     // Only an item that is checked has room for its mark.
     action->setCheckable(item.Checked());
     action->setChecked(item.Checked());
@@ -115,7 +126,7 @@ QMenu* MenuTree::MenuOf(const MenuItem& item) const {
 
 std::optional<PropertyValue> MenuTree::Seen(const MenuItem& item, std::string_view property) const {
     const QAction* const action = ActionOf(item);
-    if (action == nullptr) {
+    if (action == nullptr || item.IsSeparator()) {
         return std::nullopt;
     }
     if (property == "Visible") {

@@ -14,6 +14,7 @@
 #include <QPrinter>
 
 #include <algorithm>
+#include <cmath>
 #include <utility>
 #include <variant>
 
@@ -81,7 +82,12 @@ private:
     [[nodiscard]] QFont FontFor(const QString& words, const PrinterFont& font) const {
         const QFont own = TwipFont(font.Name, font.Size, font.Bold);
         const double across = QFontMetricsF(own).horizontalAdvance(words);
-        return across <= width_ ? own : TwipFont(font.Name, font.Size * width_ / across, font.Bold);
+        if (across <= width_) {
+            return own;
+        }
+        // Whole twips, the smaller ones.
+        const double twips = std::floor(font.Size * TwipsPerPoint * width_ / across);
+        return TwipFont(font.Name, twips / TwipsPerPoint, font.Bold);
     }
     [[nodiscard]] bool Put(const PrintedPicture& item) {
         const Place& place = item.Where;
