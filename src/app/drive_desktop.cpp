@@ -9,7 +9,7 @@
 #include <cstdio>
 #include <memory>
 
-using namespace brindlex;
+namespace brindlex {
 
 namespace {
 
@@ -20,9 +20,7 @@ void TellWarnings(QtMsgType /*type*/, const QMessageLogContext& /*context*/, con
     }
 }
 
-}  // namespace
-
-int main(int argc, char** argv) {
+int RunScripted(int argc, char** argv) {
     qInstallMessageHandler(TellWarnings);
     QApplication::setStyle(QStringLiteral("Fusion"));
     const QApplication application(argc, argv);
@@ -39,4 +37,12 @@ int main(int argc, char** argv) {
     };
     parts.RegisterForms = RegisterForms;
     return RunDriver(argc, argv, parts);
+}
+
+}  // namespace
+
+}  // namespace brindlex
+
+int main(int argc, char** argv) {
+    return brindlex::RunScripted(argc, argv);
 }

@@ -11,7 +11,7 @@
 
 namespace brindlex {
 
-EndSignals::EndSignals() : descriptor_(-1) {
+EndSignals::EndSignals() {
     sigset_t awaited;
     sigemptyset(&awaited);
     for (const int number : {SIGTERM, SIGINT, SIGHUP}) {

@@ -20,7 +20,7 @@ public:
     void WhenTold(std::function<void()> end);
 
 private:
-    int descriptor_;
+    int descriptor_ = -1;
     std::unique_ptr<QSocketNotifier> notifier_;
 };
 

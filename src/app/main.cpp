@@ -9,7 +9,7 @@
 
 #include <QApplication>
 
-using namespace brindlex;
+namespace brindlex {
 
 namespace {
 
@@ -23,9 +23,7 @@ void EndInOrder(Program& program) {
     });
 }
 
-}  // namespace
-
-int main(int argc, char** argv) {
+int RunProgram(int argc, char** argv) {
     QApplication::setApplicationName(QStringLiteral("brindlex"));
     QApplication::setDesktopFileName(QStringLiteral("brindlex"));
     const std::filesystem::path folder = Workplace();
@@ -46,4 +44,12 @@ int main(int argc, char** argv) {
     endSignals.WhenTold([&] { EndInOrder(program); });
     program.Start();
     return program.Ended() ? 0 : QApplication::exec();
+}
+
+}  // namespace
+
+}  // namespace brindlex
+
+int main(int argc, char** argv) {
+    return brindlex::RunProgram(argc, argv);
 }

@@ -32,7 +32,7 @@ QPageLayout::Orientation OrientationOf(const PrintedPage& page) {
 }
 
 // Paints pages one after the other. Texts flow down from the top, though never over a picture that was there first. A
-// line that the page has no room for goes on the next page, and one that is too wide is set smaller.
+// line that the page has no room for goes on the next page; a line or picture that is too wide is made smaller.
 class PageWriter {
 public:
     PageWriter(QPagedPaintDevice& device, QPainter& painter) : device_(device), painter_(painter) {}
@@ -91,8 +91,13 @@ private:
     }
     [[nodiscard]] bool Put(const PrintedPicture& item) {
         const Place& place = item.Where;
-        PaintSnapshot(painter_, item.Picture, QRectF(place.Left, place.Top, place.Width, place.Height));
-        covered_ = std::max(covered_, place.Top + place.Height);
+        // What would go over the edge of the page is made smaller.
+        const double across = (width_ - place.Left) / place.Width;
+        const double down = (height_ - place.Top) / place.Height;
+        const double scale = std::clamp(std::min(across, down), 0.0, 1.0);
+        const QRectF target(place.Left, place.Top, place.Width * scale, place.Height * scale);
+        PaintSnapshot(painter_, item.Picture, target);
+        covered_ = std::max(covered_, target.bottom());
         return true;
     }
 

@@ -48,6 +48,11 @@ void ComboBox::AddItem(const std::string& item) {
     Changed(Aspect::List);
 }
 
+void ComboBox::AddItems(const std::vector<std::string>& items) {
+    list_.items.insert(list_.items.end(), items.begin(), items.end());
+    Changed(Aspect::List);
+}
+
 void ComboBox::RemoveItem(int index) {
     if (index < 0 || index >= ListCount()) {
         throw Fault(FaultNumber::BadArgument);

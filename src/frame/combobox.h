@@ -20,6 +20,8 @@ public:
     /// Empties the list and the text; fires nothing.
     void Clear();
     void AddItem(const std::string& item);
+    /// Many at once: the runtime is told once.
+    void AddItems(const std::vector<std::string>& items);
     /// Throws BadArgument outside the list. The text stays.
     void RemoveItem(int index);
     [[nodiscard]] const std::vector<std::string>& List() const { return list_.items; }

@@ -19,9 +19,13 @@ double PrinterObject::Height() const {
 void PrinterObject::Orientation(PaperOrientation value) {
     orientation_ = value;
     if (!document_.Pages.empty() && document_.Pages.back().Items.empty()) {
-        document_.Pages.back().Width = Width();
-        document_.Pages.back().Height = Height();
+        Turn(document_.Pages.back());
     }
+}
+
+void PrinterObject::Turn(PrintedPage& page) const {
+    page.Width = Width();
+    page.Height = Height();
 }
 
 PrintedPage& PrinterObject::Page() {
@@ -40,6 +44,7 @@ void PrinterObject::PrintAtTab(int column, std::string_view text) {
 }
 
 void PrinterObject::PaintPicture(const Snapshot& picture, double left, double top, double width, double height) {
+    Turn(Page());
     Page().Items.emplace_back(PrintedPicture{{left, top, width, height}, picture});
 }
 

@@ -58,7 +58,8 @@ public:
     [[nodiscard]] double ScaleWidth() const { return Width(); }
     [[nodiscard]] double ScaleHeight() const { return Height(); }
     [[nodiscard]] PaperOrientation Orientation() const { return orientation_; }
-    /// Takes effect on pages that are not open yet, and on the open one while nothing stands on it.
+    /// Takes effect on pages that are not open yet, and on the open one while nothing stands on it or once a picture
+    /// goes on it, which was fitted to it.
     void Orientation(PaperOrientation value);
 
     void Print(std::string_view text = {});
@@ -73,6 +74,8 @@ public:
 
 private:
     PrintedPage& Page();
+    /// Lays a page in the present orientation.
+    void Turn(PrintedPage& page) const;
 
     Runtime& runtime_;
     PrinterFont font_;

@@ -263,8 +263,12 @@ InputFile Folder::OpenInput(std::string_view name) const {
     if (error) {
         throw SystemFault(error);
     }
-    if (fs::status(path, error).type() == fs::file_type::not_found) {
+    const fs::file_type type = fs::status(path, error).type();
+    if (type == fs::file_type::not_found) {
         throw Fault(FaultNumber::FileNotFound);
+    }
+    if (type == fs::file_type::character) {
+        throw SystemFault(std::make_error_code(std::errc::no_such_device_or_address));  // some never end
     }
     errno = 0;
     std::ifstream stream(path, std::ios::binary);

@@ -87,7 +87,7 @@ public:
     [[nodiscard]] bool Exists(std::string_view name) const;
 
     /// Throw FileNotFound or FileIo (PermissionDenied where it is that) when the file can't be opened; a folder, a
-    /// pipe or a socket in the file's place can't.
+    /// pipe or a socket in the file's place can't. A device can't be read from: a source of zeros never ends.
     [[nodiscard]] InputFile OpenInput(std::string_view name) const;
     [[nodiscard]] OutputFile OpenOutput(std::string_view name) const;
     [[nodiscard]] OutputFile OpenAppend(std::string_view name) const;

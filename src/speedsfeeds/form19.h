@@ -23,49 +23,49 @@ public:
     explicit Form19(Program& program);
 
     Frame Frame2{*this, "Frame2", {105, 105, 7845, 1395}, "Operations (Mode: SAFE)"};
-    Label Label1{Frame2, "Label1", {150, 240, 2730, 195}, "Machine"};
-    ComboBox Combo1{Frame2, "Combo1", {150, 435, 2730, 300}};
-    Label Label2{Frame2, "Label2", {150, 810, 2730, 195}, "Tool"};
-    ComboBox Combo2{Frame2, "Combo2", {150, 1005, 2730, 300}};
-    TextBox Text17{Frame2, "Text17", {150, 1005, 2462, 300}};
-    Label Label3{Frame2, "Label3", {3270, 240, 2385, 195}, "Tool Material"};
-    ComboBox Combo3{Frame2, "Combo3", {3270, 435, 2385, 300}};
-    TextBox Text18{Frame2, "Text18", {3270, 435, 2117, 300}};
-    Label Label4{Frame2, "Label4", {3270, 810, 2385, 195}, "Material Being Cut"};
-    ComboBox Combo4{Frame2, "Combo4", {3270, 1005, 2385, 300}};
-    TextBox Text19{Frame2, "Text19", {3270, 1005, 2117, 300}};
+    Label Label1{Frame2, "Label1", {150, 240, 2685, 195}, "Machine"};
+    ComboBox Combo1{Frame2, "Combo1", {150, 435, 2685, 300}};
+    Label Label2{Frame2, "Label2", {150, 810, 2685, 195}, "Tool"};
+    ComboBox Combo2{Frame2, "Combo2", {150, 1005, 2685, 300}};
+    TextBox Text17{Frame2, "Text17", {150, 1005, 2417, 300}};
+    Label Label3{Frame2, "Label3", {3225, 240, 2430, 195}, "Tool Material"};
+    ComboBox Combo3{Frame2, "Combo3", {3225, 435, 2430, 300}};
+    TextBox Text18{Frame2, "Text18", {3225, 435, 2162, 300}};
+    Label Label4{Frame2, "Label4", {3225, 810, 2430, 195}, "Material Being Cut"};
+    ComboBox Combo4{Frame2, "Combo4", {3225, 1005, 2430, 300}};
+    TextBox Text19{Frame2, "Text19", {3225, 1005, 2162, 300}};
     Label Label5{Frame2, "Label5", {6000, 240, 1740, 195}, "Range: SFM"};
     TextBox Text1{Frame2, "Text1", {6000, 435, 1740, 300}};
     Label Label6{Frame2, "Label6", {6000, 810, 1740, 195}, "Range: FPT"};
     TextBox Text2{Frame2, "Text2", {6000, 1005, 1740, 300}};
 
-    Frame Frame1{*this, "Frame1", {105, 1590, 3030, 1785}, "REQUIRED DATA (Units: INCHES)"};
+    Frame Frame1{*this, "Frame1", {105, 1590, 2985, 1785}, "REQUIRED DATA (Units: INCHES)"};
     Label Label7{Frame1, "Label7", {150, 315, 1290, 195}, "Choose SFM"};
-    TextBox Text3{Frame1, "Text3", {1500, 255, 1380, 300}};
+    TextBox Text3{Frame1, "Text3", {1500, 255, 1335, 300}};
     Label Label8{Frame1, "Label8", {150, 690, 1290, 195}, "Choose FPT"};
-    TextBox Text4{Frame1, "Text4", {1500, 630, 1380, 300}};
+    TextBox Text4{Frame1, "Text4", {1500, 630, 1335, 300}};
     Label Label9{Frame1, "Label9", {150, 1065, 1290, 195}, "Tool Dia."};
-    TextBox Text5{Frame1, "Text5", {1500, 1005, 1380, 300}};
+    TextBox Text5{Frame1, "Text5", {1500, 1005, 1335, 300}};
     Label Label10{Frame1, "Label10", {150, 1440, 1290, 195}, "# of Teeth"};
-    TextBox Text6{Frame1, "Text6", {1500, 1380, 1380, 300}};
+    TextBox Text6{Frame1, "Text6", {1500, 1380, 1335, 300}};
 
-    Frame Frame4{*this, "Frame4", {105, 3465, 3030, 660}, "To Calculate Required H.P."};
+    Frame Frame4{*this, "Frame4", {105, 3465, 2985, 660}, "To Calculate Required H.P."};
     Label Label13{Frame4, "Label13", {150, 315, 2040, 195}, "Power Constant/HP Factor"};
-    TextBox Text9{Frame4, "Text9", {2205, 255, 675, 300}};
+    TextBox Text9{Frame4, "Text9", {2205, 255, 630, 300}};
 
-    Frame Frame3{*this, "Frame3", {3225, 1590, 2685, 1035}, "To Calculate Metal Removal Rate"};
+    Frame Frame3{*this, "Frame3", {3180, 1590, 2730, 1035}, "To Calculate Metal Removal Rate"};
     Label Label11{Frame3, "Label11", {150, 315, 1230, 195}, "Depth of Cut"};
-    TextBox Text7{Frame3, "Text7", {1410, 255, 1125, 300}};
+    TextBox Text7{Frame3, "Text7", {1410, 255, 1170, 300}};
     Label Label12{Frame3, "Label12", {150, 690, 1230, 195}, "Width of Cut"};
-    TextBox Text8{Frame3, "Text8", {1410, 630, 1125, 300}};
+    TextBox Text8{Frame3, "Text8", {1410, 630, 1170, 300}};
 
-    Frame Frame6{*this, "Frame6", {3225, 2715, 2685, 1035}, "To Calculate Cutting Time"};
+    Frame Frame6{*this, "Frame6", {3180, 2715, 2730, 1035}, "To Calculate Cutting Time"};
     Label Label14{Frame6, "Label14", {150, 315, 1230, 195}, "Length of Cut"};
-    TextBox Text14{Frame6, "Text14", {1410, 255, 1125, 300}};
+    TextBox Text14{Frame6, "Text14", {1410, 255, 1170, 300}};
     Label Label15{Frame6, "Label15", {150, 690, 1230, 195}, "Number of Cuts"};
-    TextBox Text15{Frame6, "Text15", {1410, 630, 1125, 300}};
+    TextBox Text15{Frame6, "Text15", {1410, 630, 1170, 300}};
 
-    CommandButton Command1{*this, "Command1", {3225, 3840, 2685, 285}, "Calculate!"};
+    CommandButton Command1{*this, "Command1", {3180, 3840, 2730, 285}, "Calculate!"};
 
     Frame Frame5{*this, "Frame5", {6000, 1590, 1950, 2160}, "Results"};
     Label Label16{Frame5, "Label16", {105, 315, 885, 195}, "RPM"};

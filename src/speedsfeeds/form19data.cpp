@@ -17,12 +17,6 @@ constexpr std::size_t ToolMaterialLevel = 1;
 constexpr std::size_t WorkMaterialLevel = 2;
 constexpr std::int16_t Busy = -1;
 
-void AddAll(ComboBox& combo, const std::vector<std::string>& items) {
-    for (const std::string& item : items) {
-        combo.AddItem(item);
-    }
-}
-
 /// A name as the first entry of its list, chosen.
 void ListFirst(ComboBox& combo, const std::string& name) {
     combo.AddItem(name);
@@ -124,7 +118,7 @@ void Form19::FilCmbos() {
             combo.Text(shown);
         }
     }
-    Guarded([&] { AddAll(Combo2, Data().Tools(UnitInForce(), Combo2.List())); });
+    Guarded([&] { Combo2.AddItems(Data().Tools(UnitInForce(), Combo2.List())); });
     keepEntries_ = false;
     FillBusy = 0;
 }
@@ -143,8 +137,8 @@ void Form19::FilChoices() {
     }
     Choices found;
     Guarded([&] { found = Data().WalkDown({Combo2.Text(), Combo3.Text(), Combo4.Text()}); });
-    AddAll(Combo3, found.ToolMaterials);
-    AddAll(Combo4, found.WorkMaterials);
+    Combo3.AddItems(found.ToolMaterials);
+    Combo4.AddItems(found.WorkMaterials);
     if (found.Data) {
         Text1.Text(found.Data->SpeedRange);
         Text2.Text(found.Data->FeedRange);

@@ -147,7 +147,8 @@ TEST_F(Form8Test, FailedSaveLeavesTheOldFile) {
     Solve({"0", "0", "10", "4", "0"});
     run.Files.emplace_back("no-such-folder/flange.bcf");
     F().SaveFileAs.FireClick();
-    EXPECT_EQ(run.Boxes.size(), 1U);
+    EXPECT_TRUE(run.Boxes.empty());
+    EXPECT_EQ(F().CommonDialog1.FileName(), "");
     EXPECT_FALSE(program->Ended());
     EXPECT_EQ(F().Text6.Text(), FourHoles);
 }

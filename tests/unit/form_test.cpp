@@ -142,10 +142,12 @@ TEST_F(FormTest, ComboTextThatIsAnItemFiresClickEvenWhenItShowsAlready) {
     EXPECT_EQ(form->Combo1.ListIndex(), -1);
     form->Combo1.ListIndex(0);
     EXPECT_EQ(Log(), (Lines{"Combo1_Click b", "Combo1_Click b", "Combo1_Change c", "Combo1_Click a"}));
+    form->Combo1.AddItems({"d", "e"});
+    EXPECT_EQ(form->Combo1.List(), (Lines{"a", "b", "d", "e"}));
     form->Combo1.RemoveItem(0);
     EXPECT_EQ(form->Combo1.ListIndex(), -1);
     EXPECT_EQ(form->Combo1.Text(), "a");
-    EXPECT_THROW(form->Combo1.RemoveItem(1), Fault);
+    EXPECT_THROW(form->Combo1.RemoveItem(3), Fault);
 }
 
 TEST_F(FormTest, ChecksAndOptionsFireWhenTheirValueChanges) {
