@@ -98,7 +98,9 @@ TEST(GeometryRecord, ReadsNumbersAndValues) {
     EXPECT_EQ(NumberOf(" 100"), 10);  // three characters
     EXPECT_EQ(NumberOf(" 100", 4), 100);
     // A slice begins one column before its field and has 27 characters, so that it ends with the field's 26th.
-    EXPECT_EQ(ReadRecord(PointLine(1, std::string(25, '0') + "12", "3")).Place().X, 1);
+    std::string long27(25, '0');
+    long27.append("12");
+    EXPECT_EQ(ReadRecord(PointLine(1, long27, "3")).Place().X, 1);
     EXPECT_EQ(ReadRecord(At({{14, "9"}, {15, "8"}, {43, "1"}, {71, "Point"}})).Place().X, 98);
 }
 
