@@ -259,6 +259,11 @@ void DesktopPlayer::MouseOn(Control& control, MouseAct act, const Mouse& mouse) 
     if (widget == nullptr) {
         return;
     }
+    // A press brings the focus, also in a window that the platform did not bring to the front.
+    if (auto* const input = dynamic_cast<InputControl*>(&control);
+        act == MouseAct::Down && input != nullptr && input->TakesFocus()) {
+        Focus(*input);
+    }
     double x = mouse.X;
     double y = mouse.Y;
     if (const auto* const picture = dynamic_cast<PictureBox*>(&control)) {

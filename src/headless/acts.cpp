@@ -233,7 +233,10 @@ void CheckLoaded(const Form& form) {
 void SetAct(Stage& stage, ScriptLine& line) {
     const NamedProperty named = PropertyNamed(stage.App, line.Word());
     const PropertyValue value = PropertyOf(line.Value());
-    CheckLoaded(*named.Of.Where);
+    // Showing a form loads it; it is the only way to one that nothing in the program opens.
+    if (named.Of.What != nullptr || named.Of.Item != nullptr || named.Property != "Visible") {
+        CheckLoaded(*named.Of.Where);
+    }
     if (!named.Key.empty()) {
         SetProperty(dynamic_cast<Toolbar&>(*named.Of.What), named.Key, named.Property, value);
     } else if (named.Of.What != nullptr) {

@@ -39,10 +39,20 @@ TEST(ActsOnFormsTest, SizeOfASizableForm) {
                                "show Form11.ScaleHeight\n"
                                "size Form11 0 6000\n"
                                "size Form11 7500\n"
-                               "set Form4.Visible -1\n"),
+                               "set Form4.Caption \"x\"\n"),
               (Log{"ok", "ok 7500", "ok 6000", "error a form has a size", "error too little is said",
                    "error Form4 is not loaded"}));
     EXPECT_EQ(HeardOf(stand), (Log{"Form11_Resize"}));
+}
+
+TEST(ActsOnFormsTest, ShowingAFormByItsPropertyLoadsIt) {
+    ScriptStand stand;
+    EXPECT_EQ(stand.AfterStart("set Form4.Visible -1\n"
+                               "show forms\n"
+                               "set Form4.Visible 0\n"
+                               "show forms\n"
+                               "show loaded\n"),
+              (Log{"ok", R"(ok ["Form11","Form4"])", "ok", R"(ok ["Form11"])", R"(ok ["Form11","Form4"])"}));
 }
 
 TEST(ActsOnFormsTest, FormsOfFixedSizeKeepIt) {
