@@ -40,4 +40,4 @@ program_packages=(cmake g++ ninja-build qt6-base-dev libgl1-mesa-dev nlohmann-js
 # A screen for a machine that has none.
 screen_packages=(xvfb xauth)
 # What the tests need besides.
-test_packages=(python3 libgtest-dev libbenchmark-dev clang clang-format clang-tidy libclang-rt-14-dev)
+test_packages=(poppler-utils python3 libgtest-dev libbenchmark-dev clang clang-format clang-tidy libclang-rt-14-dev)

@@ -73,8 +73,8 @@ void PrinterAct(Stage& stage, ScriptLine& line) {
         choice.emplace().Copies = line.Whole();
     }
     line.End();
-    if (choice && choice->Copies < 1) {
-        throw ScriptError("at least one copy is wanted");
+    if (choice && choice->Copies < 0) {
+        throw ScriptError("a number of copies is wanted");
     }
     stage.Run.Printers.push_back(choice);
 }

@@ -273,9 +273,6 @@ void Form12::TakeDocument(const std::vector<std::string>& lines) {
     if (lines.empty()) {
         return;
     }
-    // The old entries go first, so that a document that was cut off does not mix with them.
-    Text1.Text("");
-    Text2.Text("");
     Combo1.Text(lines.front());
     OptionButton* const options[] = {&Option1, &Option2};
     for (std::size_t at = 1; at < lines.size() && at <= std::size(options); ++at) {
@@ -286,9 +283,11 @@ void Form12::TakeDocument(const std::vector<std::string>& lines) {
     if (!Option1.Value() && !Option2.Value()) {
         Option1.Value(true);
     }
-    TextBox* const boxes[] = {&Text1, &Text2};
-    for (std::size_t at = 1 + std::size(options); at < lines.size(); ++at) {
-        boxes[at - 1 - std::size(options)]->Text(lines[at]);
+    // Where a document was cut off, the old entries go, so that they do not mix with it.
+    std::size_t at = 1 + std::size(options);
+    for (TextBox* const box : {&Text1, &Text2}) {
+        box->Text(at < lines.size() ? lines[at] : "");
+        ++at;
     }
 }
 

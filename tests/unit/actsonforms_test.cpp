@@ -230,13 +230,13 @@ TEST(ActsOnFormsTest, QueuedDialogsAndTheRecord) {
                                "dialog perhaps\n"
                                "printer cancel\n"
                                "printer 3\n"
-                               "printer 0\n"
+                               "printer -1\n"
                                "printer 1.5\n"
                                "press Form11.Command3\n"
                                "show dialogs\n"
                                "show dialogs\n"),
               (Log{"ok", "ok", "error a text in double quotes is wanted", "ok", "ok",
-                   "error at least one copy is wanted", "error a whole number is wanted", "ok",
+                   "error a number of copies is wanted", "error a whole number is wanted", "ok",
                    "ok [[\"save\",14,\"All (*.*)|*.*\",\"old.rgt\"],[\"save\",14,\"All (*.*)|*.*\",\"old.rgt\"],"
                    "[\"open\",14,\"All (*.*)|*.*\",\"cancel\"],[\"printer\",14,\"All (*.*)|*.*\",\"cancel\"],"
                    "[\"printer\",14,\"All (*.*)|*.*\",\"cancel\"],[\"printer\",14,\"All (*.*)|*.*\",\"cancel\"]]",

@@ -105,6 +105,18 @@ TEST_F(Printing, FitsThePictureToThePage) {
     EXPECT_EQ(std::get<PrintedPicture>(OnlyPage(5).Items[0]).Where, (Place{100, 200, 10000, 10000}));
 }
 
+TEST_F(Printing, AWidePictureTurnsThePageWithItsHeading) {
+    printer().Print("Heading");
+    PrintFitPage(printer(), PictureOf(6000, 3000), 1500, 1000);
+    printer().EndDoc();
+    const PrintedPage& page = OnlyPage(0);
+    EXPECT_EQ(page.Width, 14000);
+    EXPECT_EQ(page.Height, 10000);
+    ASSERT_EQ(page.Items.size(), 2U);
+    EXPECT_EQ(std::get<PrintedText>(page.Items[0]).Text, "Heading");
+    EXPECT_EQ(std::get<PrintedPicture>(page.Items[1]).Where, (Place{1500, 1000, 14000, 7000}));
+}
+
 TEST_F(Printing, APictureOfNoSizePrintsNothing) {
     PrintFitPage(printer(), PictureOf(0, 100));
     PrintFitPage(printer(), PictureOf(100, 0));
