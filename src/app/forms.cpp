@@ -6,6 +6,7 @@
 #include "frame/form7.h"
 #include "frame/program.h"
 #include "geometry/form17.h"
+#include "geometry/form18.h"
 #include "oblique/form2.h"
 #include "polygon/form16.h"
 #include "righttri/form1.h"
@@ -37,6 +38,7 @@ void RegisterForms(Program& program) {
     Add<sineplate::Form12>(program, "Form12");
     Add<polygon::Form16>(program, "Form16");
     Add<geometry::Form17>(program, "Form17");
+    Add<geometry::Form18>(program, "Form18");
     Add<speedsfeeds::Form19>(program, "Form19");
     for (const char* const name : {"Form5", "Form6", "Form9", "Form14"}) {
         program.Register(name, [name](Program& owner) { return MakeRoundNumbersDialog(owner, name); });

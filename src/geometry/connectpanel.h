@@ -5,10 +5,12 @@
 #include "frame/buttons.h"
 #include "frame/label.h"
 #include "frame/textbox.h"
+#include "geometry/connect.h"
 #include "geometry/panelplace.h"
 #include "geometry/session.h"
 
 #include <array>
+#include <cstddef>
 
 namespace brindlex::geometry {
 
@@ -36,6 +38,7 @@ public:
     CommandButton Command6{Frame7, "Command6", {75, 690, 435, 375}};
     CommandButton Command7{Frame7, "Command7", {540, 690, 435, 375}};
 
+    /// Circle, line, point of the first side, then of the second; an option and its box have the same index.
     [[nodiscard]] std::array<TextBox*, 6> Boxes() { return {&Text12, &Text13, &Text14, &Text15, &Text16, &Text17}; }
     [[nodiscard]] std::array<OptionButton*, 6> Options() {
         return {&Option1, &Option2, &Option3, &Option4, &Option5, &Option6};
@@ -45,11 +48,33 @@ public:
     /// What the boxes name; 0 for an empty one.
     [[nodiscard]] std::array<double, 6> NamedNumbers() const;
     void ClearBoxes();
+    void LockBoxes();
     /// No option set; the boxes empty, locked and disabled.
     void Rest();
 
+    /// Connects the two entities that the boxes name; false where a check refused them, or while a click holds one.
+    bool PlaceIt();
+    /// Takes a clicked entity, which the pick state names, into the panel; the second one is connected to the first.
+    void ConnectStat();
+    /// How many lines the set options ask for: 4, or 2 with one point, or 1 between points; 0 without an option.
+    [[nodiscard]] int LinesAskedFor() const;
+    /// How many the last connection has made.
+    [[nodiscard]] int LinesMade() const { return made_; }
+
 private:
+    void SelectKind(std::size_t option);
+    [[nodiscard]] bool SidesNamed() const;
+    [[nodiscard]] bool CheckForError();
+    [[nodiscard]] bool CheckSide(std::size_t firstBox);
+    void ConnectStuff();
+    void RefuseByLimit(ConnectLimit limit);
+    void ResetPick();
+    /// Writes the clicked entity into its box; refuses one that is the first already.
+    void NamePicked();
+    [[nodiscard]] bool RefuseOverfull();
+
     Session& work_;
+    int made_ = 0;
 };
 
 }  // namespace brindlex::geometry

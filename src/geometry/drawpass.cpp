@@ -82,7 +82,7 @@ void DrawPass::AddHit(const Entity& entity) {
 
 /// A pick by the right button: the first entity that it takes is the picked one.
 void DrawPass::Take(Entity& entity) {
-    if (Pick.Number == 0 && !entity.Taken) {
+    if (Pick.Number == 0 && !entity.Taken && (Pick.Refused == 0 || entity.Number != Pick.Refused)) {
         Pick.Number = static_cast<int>(std::clamp(entity.Number, -LargestNumber, LargestNumber));
         Pick.Shape = entity.Shape;
         if (Calls.Picked) {

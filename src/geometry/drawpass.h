@@ -49,7 +49,8 @@ struct PassView {
 struct PickState {
     int Number = 0;
     Kind Shape = Kind::None;
-    int Stage = 0;  ///< 0: the next click fills the first entity; 1: the second
+    int Stage = 0;    ///< 0: the next click fills the first entity; 1: the second
+    int Refused = 0;  ///< an entity that was refused as its own partner: not taken again while the button is held
 };
 
 /// What the passes leave.

@@ -20,8 +20,13 @@ public:
     TextBox Text5{*this, "Text5", {1740, 945, 3360, 300}};
 
     void Clear();
+    /// Both lines of the chosen pair then end where they meet; false where no pair is there to choose.
+    bool PlaceIt();
 
 private:
+    void Combo2_Click();
+    void Extend();
+
     Session& work_;
 };
 

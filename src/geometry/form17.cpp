@@ -24,6 +24,15 @@ Form17::Form17(Program& program) : Form(program, "Form17", 7452, 6672) {
 
 void Form17::BindSession() {
     Work.Calls.KillCaptions = [this] { Keeping.KillCaptions(); };
+    Work.Calls.KeepStuff = [this] { Keeping.KeepStuff(); };
+    Work.Calls.FillLists = [this] { Frame12.FillLists(); };
+    Work.Calls.FindAng = [this] { Pairs.FindAng(); };
+    Work.Calls.OfferLines = [this](int first, int count) { Keeping.OfferLines(first, count); };
+    Work.Calls.WithdrawLines = [this] { Keeping.WithdrawLines(); };
+    Work.Calls.OfferCircles = [this] { Keeping.OfferCircles(); };
+    Work.Calls.TellTouching = [this](bool every) { ShowTouching(every); };
+    Work.Pass.Calls.Picked = [this] { Frame4.ConnectStat(); };
+    Work.Pass.Calls.Named = [this] { Keeping.CommandCaptions(); };
     Work.Pass.Calls.NamedNumbers = [this] { return Frame4.NamedNumbers(); };
     Work.Pass.Calls.Filter = [this] { return Frame12.Filter(); };
 }
@@ -73,6 +82,7 @@ void Form17::Form_Initialize() {
 void Form17::Form_Load() {
     PlaceOnScreen();
     Caption(Owner().Shared().VerCaption + "Geometry");
+    const auto recovered = RecoverLeftOver(Owner().Files());
     Work.Live().Begin();
     Work.Entities.Clear();
     Work.Pass.Pick = {};
@@ -87,6 +97,7 @@ void Form17::Form_Load() {
         Work.Withdraw(*control);
     }
     Keeping.HideStrip();
+    ShowTouching(true);
     RemoveIt.Enabled(false);
     SaveAs.Enabled(false);
     Work.EnableTool("Delete", false);
@@ -96,6 +107,9 @@ void Form17::Form_Load() {
     Timer1.Interval(1);
     Timer1.Enabled(true);
     Frame1.Text3.SetFocus();
+    if (recovered) {
+        Owner().MsgBox("A drawing of an earlier run was saved as " + *recovered, style::Information);
+    }
 }
 
 void Form17::LoadBars() {
@@ -125,6 +139,7 @@ void Form17::LoadBars() {
 
 void Form17::NewStuff() {
     Work.NewDrawing();
+    Keeping.ForgetCandidates();
     Frame1.Clear();
     Frame2.Clear();
     Frame3.Clear();
@@ -164,7 +179,9 @@ void Form17::Command1_Click() {
     Work.Pass.Marks.Ink = ink::Plain;
     Keeping.ClearForPlacing();
     if ((Frame1.Visible() && !Frame1.PlaceIt()) || (Frame2.Visible() && !Frame2.PlaceIt()) ||
-        (Frame3.Visible() && !Frame3.PlaceIt())) {
+        (Frame3.Visible() && !Frame3.PlaceIt()) || (Frame4.Visible() && !Frame4.PlaceIt()) ||
+        (Frame8.Visible() && !Frame8.PlaceIt()) || (Frame10.Visible() && !Frame10.PlaceIt()) ||
+        (Frame12.Visible() && !Frame12.PlaceIt())) {
         return;
     }
     Work.AfterPlacing();

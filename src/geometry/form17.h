@@ -11,7 +11,9 @@
 #include "geometry/connectpanel.h"
 #include "geometry/createpanel.h"
 #include "geometry/extendpanel.h"
+#include "geometry/geofile.h"
 #include "geometry/keep.h"
+#include "geometry/pairlists.h"
 #include "geometry/pointer.h"
 #include "geometry/session.h"
 #include "geometry/showhidepanel.h"
@@ -33,7 +35,7 @@ public:
     /// What the panels get in the form's place; the controls that it names follow.
     Session Work{Owner(),
                  {Picture1, VScroll1, HScroll1, Toolbar1, Command1, Command2, Command3, Command9, Command13, Label16,
-                  Label26, RemoveIt, SaveAs, AutoFit, NoNums, InchTo, MM}};
+                  Label26, RemoveIt, SaveAs, AutoFit, NoNums, ExactTan, InchTo, MM}};
 
     Toolbar Toolbar1{*this, "Toolbar1", {0, 0, 5.175, 0.3333}, Tools()};
     Label Label20{*this, "Label20", {0.2917, 0.5, 0.76, 0.1667}, "Position:  X"};
@@ -65,6 +67,7 @@ public:
     Label Label14{*this, "Label14", {2.9, 4.44, 0.4, 0.1667}};
     Label Label15{*this, "Label15", {3.43, 4.44, 0.8, 0.1667}, "Zoom Factor"};
     Label Label16{*this, "Label16", {4.25, 4.44, 0.6, 0.1667}};
+    Label Label35{*this, "Label35", {0.2917, 4.44, 3.0, 0.1667}, "Not every line touches. See Exact Tangents."};
     CommandButton Command9{*this, "Command9", {4.8617, 0.4208, 0.22, 0.2083}, "+"};
 
     Label Label34{*this, "Label34", {4.0917, 1.9, 0.99, 0.1667}, "Keep"};
@@ -95,6 +98,7 @@ public:
     MenuItem Sep3{Edit, "Sep3", "-"};
     MenuItem AutoFit{Edit, "AutoFit", "Auto Fit"};
     MenuItem NoNums{Edit, "NoNums", "No Numbers"};
+    MenuItem ExactTan{Edit, "ExactTan", "Exact Tangents"};
     MenuItem Navigate{*this, "Navigate", "&Navigate"};
     MenuItem RightTri{Navigate, "RightTri", "&Right Triangles"};
     MenuItem Oblique{Navigate, "Oblique", "&Oblique Triangles"};
@@ -115,7 +119,10 @@ public:
     MenuItem About{Help, "About", "&About"};
 
     Pointer Hand{Work, Frame4, Label21, Label23, {&Frame1, &Frame2, &Frame3, &Frame8}};
+    PairLists Pairs{Work, Frame8, Frame10.Combo2};
     Keep Keeping{Work, Frame4, Frame8, {Label34, Command8, Command10, Command11, Command12, Command14, Command15}};
+
+    GeoFile Files{Work, CommonDialog1, {[this] { NewStuff(); }, [this](const std::string& file) { ShowFile(file); }}};
 
     /// An empty drawing in inches.
     void NewStuff();
@@ -143,6 +150,8 @@ private:
     void Timer1_Timer();
     void Exit_Click();
     void NewGeo_Click();
+    /// The program's name, and behind it the drawing's file where it has one.
+    void ShowFile(const std::string& file);
     void GeoRpt_Click();
     void NoNums_Click();
     void PrntWin_Click();
@@ -166,6 +175,9 @@ private:
     /// The status labels beside the picture, from a height on; returns the height below the last.
     double MoveColumn(double left, double top);
     void MoveStatusRow();
+    /// Warns under the picture of a candidate that misses what it is to touch.
+    void ShowTouching(bool every);
+    void MoveWarning();
     void MoveStrip(double left, double top);
     [[nodiscard]] double ColumnLeft() const;
     void MoveLabelRow(double top);

@@ -26,6 +26,8 @@ constexpr double ColumnStep = 0.275;
 constexpr double ColumnWidth = 1.1;
 constexpr double ColumnGap = 0.05;
 constexpr double ToolHeight = 0.3333;
+constexpr double RowGap = 0.035;
+constexpr double WarningWidth = 3.0;
 
 }  // namespace
 
@@ -51,6 +53,7 @@ void Form17::UsePBoxData() {
         }
     }
     if (Owner().Screen().Height <= SmallestScreen) {
+        MoveWarning();
         return;
     }
     const double height = std::max(ScaleHeight() - room_ - PictureTop, 0.0);
@@ -61,6 +64,7 @@ void Form17::UsePBoxData() {
     } else {
         MoveStatusRow();
     }
+    MoveWarning();
     Work.Reload();
     Work.Draw();
     MoveLabelRow(LabelTop);
@@ -96,11 +100,30 @@ void Form17::MoveStatusRow() {
         double Left;
         double Width;
     };
-    const double top = HScroll1.Top() + HScroll1.Height() + 0.035;
+    const double top = HScroll1.Top() + HScroll1.Height() + RowGap;
     const Cell cells[] = {{Label11, 0, 1.02},   {Label13, 1.04, 0.4}, {Label12, 1.57, 1.02},
                           {Label14, 2.61, 0.4}, {Label15, 3.14, 0.8}, {Label16, 3.96, 0.6}};
     for (const Cell& cell : cells) {
         cell.Where.Move(PictureLeft + cell.Left, top, cell.Width, cell.Where.Height());
+    }
+}
+
+void Form17::ShowTouching(bool every) {
+    Label35.Visible(!every);
+    MoveWarning();
+}
+
+// Under the picture. Where the status row stands there, the warning takes the place of the scroll values; beside the
+// enlarged picture there is no room but above it.
+void Form17::MoveWarning() {
+    const bool row = Label16.Top() == Label11.Top();
+    for (Label* const label : {&Label11, &Label13, &Label12, &Label14}) {
+        label->Visible(!(row && Label35.Visible()));
+    }
+    if (Work.Enlarged()) {
+        Label35.Move(Label26.Left() + Label26.Width(), LargeLabelTop, WarningWidth, Label35.Height());
+    } else {
+        Label35.Move(PictureLeft, HScroll1.Top() + HScroll1.Height() + RowGap, WarningWidth, Label35.Height());
     }
 }
 
@@ -146,6 +169,7 @@ void Form17::Enlarge() {
     for (Frame* const panel : std::array<Frame*, 3>{&Frame2, &Frame4, &Frame10}) {
         panel->Top(HiddenPanelTop);
     }
+    MoveWarning();
     Command1.Visible(false);
     Work.Reload();
     Work.Draw();

@@ -3,6 +3,7 @@
 
 #include "frame/navigation.h"
 #include "frame/program.h"
+#include "geometry/unitchange.h"
 #include "services/printing.h"
 
 namespace brindlex::geometry {
@@ -18,12 +19,17 @@ constexpr Place PicturePlace{1500, 1000, 0, 0};
 
 void Form17::BindMenus() {
     NewGeo.Click.Bind(this, &Form17::NewGeo_Click);
+    OpenIt.Click.Bind([this] { Files.Open(); });
+    SaveAs.Click.Bind([this] { Files.SaveAs(); });
+    InchTo.Click.Bind([this] { ChangeUnit(Work, Unit::Inch); });
+    MM.Click.Bind([this] { ChangeUnit(Work, Unit::Millimeter); });
     PrntWin.Click.Bind(this, &Form17::PrntWin_Click);
     PrntPic.Click.Bind(this, &Form17::PrntPic_Click);
     Exit.Click.Bind(this, &Form17::Exit_Click);
     RemoveIt.Click.Bind([this] { Work.RemoveStuff(); });
     AutoFit.Click.Bind([this] { AutoFit.Checked(!AutoFit.Checked()); });
     NoNums.Click.Bind(this, &Form17::NoNums_Click);
+    ExactTan.Click.Bind([this] { ExactTan.Checked(!ExactTan.Checked()); });
     if (Owner().Knows("Form18")) {
         GeoRpt.Click.Bind(this, &Form17::GeoRpt_Click);
     }
@@ -43,7 +49,11 @@ void Form17::BindMenus() {
 
 void Form17::NewGeo_Click() {
     NewStuff();
-    Caption(Owner().Shared().VerCaption + "Geometry");
+    ShowFile("");
+}
+
+void Form17::ShowFile(const std::string& file) {
+    Caption(Owner().Shared().VerCaption + "Geometry" + (file.empty() ? "" : "- " + file));
 }
 
 void Form17::GeoRpt_Click() {

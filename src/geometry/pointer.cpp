@@ -31,6 +31,9 @@ void Pointer::Down(const Mouse& mouse) {
         view.Box.Y1 = mouse.Y;
     } else if (mouse.Button == RightButton && connect_.Visible() && work_.CheckStuff() >= 2) {
         work_.Pass.Marks.Hits = {};
+        // A message may have swallowed the end of the last pick.
+        work_.Pass.Pick.Number = 0;
+        work_.Pass.Pick.Refused = 0;
         view.Picking = true;
         view.Box.X1 = mouse.X;
         view.Box.Y1 = mouse.Y;
@@ -75,6 +78,11 @@ void Pointer::Hover(const Mouse& mouse) {
         view.Pointer = {mouse.X - scale.Width / 2, mouse.Y - scale.Height / 2};
     } else if (offered && work_.Pass.Pick.Shape != Kind::None) {
         work_.On.Picture1.ToolTipText("");
+        if (work_.Pass.Pick.Refused != 0) {
+            // The message of a refusal may have swallowed the end of the pick.
+            work_.Pass.Pick.Refused = 0;
+            view.Picking = false;
+        }
     } else {
         return;
     }
@@ -106,7 +114,7 @@ void Pointer::SelectTo() {
     } else {
         work_.WithdrawRemoving();
         work_.Withdraw(work_.On.Command3);
-        work_.On.Command1.Enabled(true);
+        work_.OfferPlacing();
     }
     pass.Marks.BoxHit = false;
 }

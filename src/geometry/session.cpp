@@ -13,7 +13,8 @@ namespace brindlex::geometry {
 namespace {
 
 /// The tools whose panels work.
-constexpr std::array<std::string_view, 7> ReadyTools{"Circle", "Line", "Point", "Zoom", "UnZoom", "Fit", "Delete"};
+constexpr std::array<std::string_view, 11> ReadyTools{"Circle", "Line", "Point",  "Connect", "CircTan", "Zoom",
+                                                      "UnZoom", "Fit",  "Delete", "PotInt",  "ID"};
 
 }  // namespace
 
@@ -30,12 +31,6 @@ Scale Session::View() const {
 
 Unit Session::Measure() const {
     return On.MM.Checked() ? Unit::Millimeter : Unit::Inch;
-}
-
-void Session::Run(const std::function<void()>& call) {
-    if (call) {
-        call();
-    }
 }
 
 bool Session::HasTool(std::string_view key) {
@@ -82,11 +77,15 @@ void Session::CrossHairs() {
 }
 
 void Session::Draw() {
+    CrossHairs();
+    DrawEntities();
+}
+
+void Session::DrawEntities() {
     Pass.Measure = Measure();
     Pass.View.Numbers = !On.NoNums.Checked();
     Pass.View.Tips = !On.Command3.Visible();
     Pass.Marks.Hovered = false;
-    CrossHairs();
     Pass.CircleStuff();
     Pass.LineStuff();
     Pass.PointStuff();

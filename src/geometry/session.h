@@ -8,11 +8,13 @@
 #include "frame/menuitem.h"
 #include "frame/scrollbar.h"
 #include "geometry/drawpass.h"
+#include "geometry/steps.h"
 #include "geometry/store.h"
 #include "geometry/viewport.h"
 
 #include <functional>
 #include <string>
+#include <type_traits>
 
 namespace brindlex {
 class Program;
@@ -37,6 +39,7 @@ struct Desk {
     MenuItem& SaveAs;
     MenuItem& AutoFit;
     MenuItem& NoNums;
+    MenuItem& ExactTan;
     MenuItem& InchTo;
     MenuItem& MM;
 };
@@ -47,6 +50,12 @@ struct SessionCalls {
     std::function<void()> KeepStuff;     ///< the candidates whose buttons have a caption leave the drawing
     std::function<void()> FindAng;       ///< the pairs of lines are listed anew
     std::function<void()> FillLists;     ///< the lists of entities are filled anew
+    /// Lines are offered to be kept: the first one's number, and how many.
+    std::function<void(int first, int count)> OfferLines;
+    std::function<void()> WithdrawLines;  ///< none is offered after all
+    std::function<void()> OfferCircles;   ///< the last four circles are offered
+    /// Whether every candidate touches what it is to touch; a label warns of one that does not.
+    std::function<void(bool every)> TellTouching;
 };
 
 class Session {
@@ -64,10 +73,19 @@ public:
     [[nodiscard]] Store Live() const;
     [[nodiscard]] Scale View() const;
     [[nodiscard]] Unit Measure() const;
+    /// How the solvers take a ratio without a divisor.
+    [[nodiscard]] Tangents Tangency() const { return On.ExactTan.Checked() ? Tangents::Exact : Tangents::AsRuled; }
+    /// The tool is the pressed one.
+    [[nodiscard]] bool Pressed(std::string_view tool) const { return On.Toolbar1.Buttons(tool).Value != 0; }
     /// The picture is enlarged.
     [[nodiscard]] bool Enlarged() const { return On.Command9.Caption() == "-"; }
     /// Calls a function of Calls where it is bound.
-    static void Run(const std::function<void()>& call);
+    template <class... Given>
+    static void Run(const std::function<void(Given...)>& call, std::type_identity_t<Given>... given) {
+        if (call) {
+            call(given...);
+        }
+    }
 
     // Buttons. What is hidden is disabled too, and what is shown is enabled.
 
@@ -82,6 +100,8 @@ public:
     // Drawing.
 
     void CrossHairs();
+    /// The three passes, over what stands.
+    void DrawEntities();
     /// The cross hairs and the three passes, over what stands.
     void Draw();
     /// The same on a cleared picture.

@@ -40,8 +40,22 @@ public:
     void ClearLists();
     /// Ends a filter and empties the lists; draws over what stands.
     void ClearShowHide();
+    /// The lists anew, from the store.
+    void FillLists();
+    /// Shows, hides or deletes what is chosen; false where nothing is.
+    bool PlaceIt();
 
 private:
+    /// Takes a list's choice out of the other five.
+    void ManLists(ComboBox& chosen);
+    void List_Click(ComboBox& list);
+    void Option_Click(bool filters);
+    void Command16_Click();
+    void Delete();
+    /// The arrays and the tails after a deletion.
+    void EasyDel();
+    [[nodiscard]] bool AnyChosen();
+
     Session& work_;
 };
 

@@ -7,9 +7,11 @@
 
 #include <algorithm>
 #include <array>
+#include <filesystem>
 #include <fstream>
 #include <ios>
 #include <iterator>
+#include <system_error>
 
 namespace brindlex::geometry {
 
@@ -119,6 +121,20 @@ void Store::End() const {
     for (const std::string_view file : ScratchFiles) {
         folder_->KillIfThere(file);
     }
+}
+
+bool Store::Owns(std::string_view name) const {
+    bool owns = false;
+    Guarded([&] {
+        std::error_code error;
+        const auto whole = [&](std::string_view file) {
+            return std::filesystem::weakly_canonical(folder_->PathOf(file), error);
+        };
+        const std::filesystem::path path = whole(name);
+        owns = path == whole(StoreFile) || std::any_of(ScratchFiles.begin(), ScratchFiles.end(),
+                                                       [&](std::string_view file) { return path == whole(file); });
+    });
+    return owns;
 }
 
 bool Store::WriteLineCopy(const std::vector<std::string>& lines) const {

@@ -53,6 +53,9 @@ public:
     /// Deletes the store and every scratch file left over (the form ends).
     void End() const;
 
+    /// Whether a path names the store or one of its scratch files, which end with the form.
+    [[nodiscard]] bool Owns(std::string_view name) const;
+
     /// Copies the line records of the lines to the scratch file of the tangent circles.
     bool WriteLineCopy(const std::vector<std::string>& lines) const;
     /// The copy, and deletes it.

@@ -8,8 +8,11 @@
 #include "frame/textbox.h"
 #include "geometry/panelplace.h"
 #include "geometry/session.h"
+#include "geometry/tangentcircles.h"
 
 #include <array>
+#include <string>
+#include <vector>
 
 namespace brindlex::geometry {
 
@@ -34,7 +37,17 @@ public:
     }
     void Clear();
 
+    /// Places the circles of the entered size; false where a check refused the entries.
+    bool PlaceIt();
+    /// Where a size is entered, whatever panel shows: four circles in the chosen pair of lines. Without a pair they lie
+    /// about the origin. `lines` are the store's; `copied` tells that its line records stand in their scratch file,
+    /// which goes in any case.
+    void MoreAng(const std::vector<std::string>& lines, bool copied);
+
 private:
+    void MakeCircles(const std::vector<std::string>& lineRecords, double radius);
+    void DrawCircle(const TangentCircle& circle, double radius);
+
     Session& work_;
 };
 

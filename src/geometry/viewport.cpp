@@ -44,7 +44,7 @@ void Take(Extents& extents, bool& first, const Extents& box) {
 
 template <std::size_t Bound>
 const double* At(const std::array<double, Bound>& values, int entity, int width) {
-    return &values[static_cast<std::size_t>(entity * width)];
+    return &values[static_cast<std::size_t>(entity) * static_cast<std::size_t>(width)];
 }
 
 }  // namespace

@@ -202,8 +202,9 @@ TEST_F(Connecting, AnOverfullBoardRefusesAClick) {
     for (int i = 1; i <= 13; ++i) {
         store += CircleLine(i, " 1", "0", "0") + End;
     }
+    PlaceCircle("0", "0", "1");
+    PlaceCircle("0", "0", "1");
     folder.Put("geometry.dat", store);
-    Tool("Fit");
     form->Work.ReDraw();
     Tool("Connect");
     ClickRight(0, .5);

@@ -16,8 +16,9 @@ const std::string End = "\r\n";
 
 class Keeping : public Form17Test {
 protected:
-    /// Two points, and a circle; then the lines 4 and 5 from the circle to a point.
+    /// A circle 1 and a point 2, and the two lines from the one to the other.
     void Candidates() {
+        Tool("Circle");
         PlaceCircle("0", "0", "1");
         Tool("Point");
         PlacePoint("1", "0");
@@ -78,9 +79,9 @@ TEST_F(Keeping, AllOrNone) {
 
 TEST_F(Keeping, CancelRepaintsWithoutTheCandidates) {
     Candidates();
-    EXPECT_EQ(Count(DrawKind::Line, ink::Plain), 2);
+    EXPECT_EQ(Count(DrawKind::Line, ink::Plain), 4) << "the cross of the point as it was, and two lines";
     form->Command3.Value(true);
-    EXPECT_EQ(Count(DrawKind::Line, ink::Plain), 2) << "the cross of the point is left";
+    EXPECT_EQ(Count(DrawKind::Line, ink::Plain), 2) << "the cross is left";
     EXPECT_EQ(Count(DrawKind::Line, ink::Named), 0);
     EXPECT_EQ(form->Work.Entities.LineTop, 0);
 }

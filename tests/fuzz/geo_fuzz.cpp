@@ -1,0 +1,113 @@
+// The drawing board with arbitrary drawing files: the first line of the input is what to do with the drawing
+// afterwards, a letter each; the rest is the file. Whatever it holds, no handler lets a fault out, nothing drawn is
+// infinite, and what is saved comes back.
+#include "app/forms.h"
+#include "formfuzz.h"
+#include "frame/program.h"
+#include "geometry/form17.h"
+#include "geometry/form18.h"
+#include "headless/headlessruntime.h"
+
+#include <algorithm>
+#include <cmath>
+#include <cstddef>
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+namespace {
+
+using namespace brindlex;
+using geometry::Form17;
+
+constexpr std::size_t MostActs = 8;
+constexpr std::size_t LongestFile = 20000;
+
+void CheckForm(const Form17& form, const DrivenRun& run) {
+    Demand(!form.Owner().Ended());
+    Demand(form.InchTo.Checked() != form.MM.Checked());
+    for (const DrawItem& item : form.Picture1.Drawn().Items()) {
+        Demand(std::isfinite(item.X1) && std::isfinite(item.Y1) && std::isfinite(item.X2) && std::isfinite(item.Y2));
+    }
+    for (const MessageBox& box : run.Boxes) {
+        Demand(box.Text.find("Run-time error") == std::string::npos);
+    }
+}
+
+void Press(Form17& form, const char* tool) {
+    if (form.Toolbar1.Buttons(tool).Enabled) {
+        form.Toolbar1.PressByPerson(tool);
+    }
+}
+
+void Act(Form17& form, char act) {
+    switch (act) {
+        case 'e':
+            Press(form, "PotInt");
+            form.Command1.Value(true);
+            break;
+        case 'd':
+            Press(form, "ID");
+            form.Frame12.Option11.Value(true);
+            form.Frame12.Combo3.ListIndex(0);
+            form.Command1.Value(true);
+            break;
+        case 'h':
+            Press(form, "ID");
+            form.Frame12.Combo5.ListIndex(1);
+            form.Frame12.Option10.Value(true);
+            form.Command1.Value(true);
+            break;
+        case 'm':
+            form.ChooseByPerson(form.MM);
+            break;
+        case 'i':
+            form.ChooseByPerson(form.InchTo);
+            break;
+        case 'f':
+            Press(form, "Fit");
+            break;
+        default: {
+            Form& report = form.Owner().Get("Form18");
+            report.Load();
+            report.Unload();
+            break;
+        }
+    }
+}
+
+void SavedComesBack(Form17& form, DrivenRun& run) {
+    const auto before = form.Work.Live().Lines();
+    run.Files.emplace_back("saved.geo");
+    form.ChooseByPerson(form.SaveAs);
+    run.Files.emplace_back("saved.geo");
+    form.ChooseByPerson(form.OpenIt);
+    Demand(form.Work.Live().Lines() == before);
+}
+
+}  // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+    static const ScratchFolder scratch;
+    const std::string_view input(reinterpret_cast<const char*>(data), std::min(size, LongestFile));
+    const std::size_t end = std::min(input.find('\n'), input.size());
+    const Folder folder(scratch.Path());
+    folder.Rewrite("a.geo", input.substr(std::min(end + 1, input.size())), Durability::Step);
+    DrivenRun run;
+    HeadlessRuntime runtime(run, {1024, 768});
+    Program program(runtime, folder);
+    RegisterForms(program);
+    auto& form = dynamic_cast<Form17&>(program.Get("Form17"));
+    form.Show();
+    run.Files.emplace_back("a.geo");
+    form.ChooseByPerson(form.OpenIt);
+    CheckForm(form, run);
+    for (const char act : input.substr(0, std::min(end, MostActs))) {
+        Act(form, act);
+        CheckForm(form, run);
+    }
+    SavedComesBack(form, run);
+    CheckForm(form, run);
+    form.Unload();
+    return 0;
+}
