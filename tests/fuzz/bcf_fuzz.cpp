@@ -1,24 +1,22 @@
 // Bolt Circles with arbitrary documents: the first line of the input is what to do with the document afterwards, a
 // letter each; the rest is the document. Whatever it holds, no handler lets a fault out, the Units menu is open exactly
 // while coordinates are shown, nothing drawn is infinite, and what is saved comes back.
+#include "formfuzz.h"
+
 #include "app/forms.h"
 #include "boltcircle/form8.h"
 #include "frame/program.h"
 #include "headless/headlessruntime.h"
 #include "services/rounddialog.h"
 
-#include <stdlib.h>  // mkdtemp
-
 #include <algorithm>
 #include <cmath>
 #include <cstddef>
 #include <cstdint>
-#include <cstdlib>
 #include <filesystem>
 #include <iterator>
 #include <string>
 #include <string_view>
-#include <system_error>
 #include <vector>
 
 namespace {
@@ -27,33 +25,6 @@ using namespace brindlex;
 using boltcircle::Form8;
 
 constexpr std::size_t MostActs = 8;
-
-void Demand(bool holds) {
-    if (!holds) {
-        std::abort();
-    }
-}
-
-/// A folder that goes away with the fuzzer.
-class ScratchFolder {
-public:
-    ScratchFolder() {
-        std::string path = (std::filesystem::temp_directory_path() / "brindlex-fuzz-XXXXXX").string();
-        Demand(::mkdtemp(path.data()) != nullptr);
-        path_ = path;
-    }
-    ~ScratchFolder() {
-        std::error_code ignored;
-        std::filesystem::remove_all(path_, ignored);
-    }
-    ScratchFolder(const ScratchFolder&) = delete;
-    ScratchFolder& operator=(const ScratchFolder&) = delete;
-
-    [[nodiscard]] const std::filesystem::path& Path() const { return path_; }
-
-private:
-    std::filesystem::path path_;
-};
 
 void CheckForm(const Form8& form, const DrivenRun& run) {
     Demand(!form.Owner().Ended());

@@ -1,25 +1,23 @@
 // Speeds + Feeds with an arbitrary store: the first line of the input is what to do, a letter each; the second is what
 // is entered, split at the bars; the rest is the store. Whatever they hold, no handler lets a fault out, a save loses
 // no line but the one that it moves, and what is saved is found again.
+#include "formfuzz.h"
+
 #include "app/forms.h"
 #include "frame/program.h"
 #include "headless/headlessruntime.h"
 #include "speedsfeeds/form19.h"
 #include "speedsfeeds/record.h"
 
-#include <stdlib.h>  // mkdtemp
-
 #include <algorithm>
 #include <array>
 #include <cstddef>
 #include <cstdint>
-#include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
 #include <string>
 #include <string_view>
-#include <system_error>
 #include <vector>
 
 namespace {
@@ -29,33 +27,6 @@ using speedsfeeds::Form19;
 
 constexpr std::size_t MostActs = 12;
 constexpr std::string_view StoreName = "Mill.dat";
-
-void Demand(bool holds) {
-    if (!holds) {
-        std::abort();
-    }
-}
-
-/// A folder that goes away with the fuzzer.
-class ScratchFolder {
-public:
-    ScratchFolder() {
-        std::string path = (std::filesystem::temp_directory_path() / "brindlex-fuzz-XXXXXX").string();
-        Demand(::mkdtemp(path.data()) != nullptr);
-        path_ = path;
-    }
-    ~ScratchFolder() {
-        std::error_code ignored;
-        std::filesystem::remove_all(path_, ignored);
-    }
-    ScratchFolder(const ScratchFolder&) = delete;
-    ScratchFolder& operator=(const ScratchFolder&) = delete;
-
-    [[nodiscard]] const std::filesystem::path& Path() const { return path_; }
-
-private:
-    std::filesystem::path path_;
-};
 
 /// The lines of the store that are not empty.
 std::vector<std::string> Lines(const Folder& folder) {

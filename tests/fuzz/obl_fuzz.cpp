@@ -1,23 +1,21 @@
 // Oblique Triangles with arbitrary documents: the first line of the input holds the menu items to choose afterwards, a
 // letter each, the rest is a file as it may lie on a disk. Whatever it holds, no handler lets a fault out, and nothing
 // that is shown holds an infinity.
+#include "formfuzz.h"
+
 #include "app/forms.h"
 #include "frame/program.h"
 #include "headless/headlessruntime.h"
 #include "oblique/form2.h"
-
-#include <stdlib.h>  // mkdtemp
 
 #include <algorithm>
 #include <array>
 #include <cmath>
 #include <cstddef>
 #include <cstdint>
-#include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <string>
-#include <system_error>
 
 namespace {
 
@@ -26,33 +24,6 @@ using oblique::Form2;
 
 constexpr const char* Document = "input.obl";
 constexpr std::size_t MostItems = 12;
-
-void Demand(bool holds) {
-    if (!holds) {
-        std::abort();
-    }
-}
-
-/// A folder that goes away with the fuzzer.
-class ScratchFolder {
-public:
-    ScratchFolder() {
-        std::string path = (std::filesystem::temp_directory_path() / "brindlex-fuzz-XXXXXX").string();
-        Demand(::mkdtemp(path.data()) != nullptr);
-        path_ = path;
-    }
-    ~ScratchFolder() {
-        std::error_code ignored;
-        std::filesystem::remove_all(path_, ignored);
-    }
-    ScratchFolder(const ScratchFolder&) = delete;
-    ScratchFolder& operator=(const ScratchFolder&) = delete;
-
-    [[nodiscard]] const std::filesystem::path& Path() const { return path_; }
-
-private:
-    std::filesystem::path path_;
-};
 
 void ChooseItems(Form2& form, const std::string& letters) {
     const std::array<MenuItem*, 6> items = {

@@ -1,6 +1,8 @@
 // Right Triangles with arbitrary entries: the lines of the input are a case, two entries, and the menu items to choose
 // afterwards, a letter each. A triangle that is solved is whole and finite; whatever the entries hold, no handler lets
 // a fault out, and nothing that is shown holds an infinity.
+#include "formfuzz.h"
+
 #include "app/forms.h"
 #include "frame/fault.h"
 #include "frame/program.h"
@@ -8,49 +10,18 @@
 #include "righttri/form1.h"
 #include "righttri/solver.h"
 
-#include <stdlib.h>  // mkdtemp
-
 #include <array>
 #include <cmath>
 #include <cstddef>
 #include <cstdint>
-#include <cstdlib>
 #include <filesystem>
 #include <numbers>
 #include <string>
-#include <system_error>
 
 namespace {
 
 using namespace brindlex;
 using righttri::Form1;
-
-void Demand(bool holds) {
-    if (!holds) {
-        std::abort();
-    }
-}
-
-/// A folder that goes away with the fuzzer.
-class ScratchFolder {
-public:
-    ScratchFolder() {
-        std::string path = (std::filesystem::temp_directory_path() / "brindlex-fuzz-XXXXXX").string();
-        Demand(::mkdtemp(path.data()) != nullptr);
-        path_ = path;
-    }
-    ~ScratchFolder() {
-        std::error_code ignored;
-        std::filesystem::remove_all(path_, ignored);
-    }
-    ScratchFolder(const ScratchFolder&) = delete;
-    ScratchFolder& operator=(const ScratchFolder&) = delete;
-
-    [[nodiscard]] const std::filesystem::path& Path() const { return path_; }
-
-private:
-    std::filesystem::path path_;
-};
 
 using Lines = std::array<std::string, 4>;
 

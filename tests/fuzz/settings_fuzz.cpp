@@ -1,15 +1,14 @@
 // Settings files and documents of any bytes: the readers give texts within their limits and never throw but as told,
 // and reading changes no file.
+#include "formfuzz.h"
+
 #include "frame/textfile.h"
 #include "services/rounding.h"
 #include "services/settings.h"
 
-#include <stdlib.h>  // mkdtemp
-
 #include <array>
 #include <cstddef>
 #include <cstdint>
-#include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
@@ -23,33 +22,6 @@ using namespace brindlex;
 
 constexpr std::array<std::string_view, 4> Keys = {"DMS=", "Shape=", "Text=", "Rounding="};
 constexpr std::size_t DocumentLines = 7;
-
-void Demand(bool holds) {
-    if (!holds) {
-        std::abort();
-    }
-}
-
-/// A folder that goes away with the fuzzer.
-class ScratchFolder {
-public:
-    ScratchFolder() {
-        std::string path = (std::filesystem::temp_directory_path() / "brindlex-fuzz-XXXXXX").string();
-        Demand(::mkdtemp(path.data()) != nullptr);
-        path_ = path;
-    }
-    ~ScratchFolder() {
-        std::error_code ignored;
-        std::filesystem::remove_all(path_, ignored);
-    }
-    ScratchFolder(const ScratchFolder&) = delete;
-    ScratchFolder& operator=(const ScratchFolder&) = delete;
-
-    [[nodiscard]] const std::filesystem::path& Path() const { return path_; }
-
-private:
-    std::filesystem::path path_;
-};
 
 std::string Content(const std::filesystem::path& path) {
     std::ifstream stream(path, std::ios::binary);
