@@ -86,10 +86,11 @@ TEST(GeometryReport, ValuesOutOfRangeReadZero) {
 }
 
 TEST(GeometryReport, AnyLineIsTaken) {
-    const std::string word = std::string(13, ' ') + "Line Tangent";
-    EXPECT_NE(
-        ReportText({word, std::string(13, ' ') + "Circle Tangent,"}, Unit::Inch, {"", ",", "/", "\\"}).find(" 0 Line:"),
-        std::string::npos);
+    std::string word(13, ' ');
+    std::string circle = word;
+    word.append("Line Tangent");
+    circle.append("Circle Tangent,");
+    EXPECT_NE(ReportText({word, circle}, Unit::Inch, {"", ",", "/", "\\"}).find(" 0 Line:"), std::string::npos);
 }
 
 }  // namespace
