@@ -25,6 +25,12 @@ void ExtendPanel::Combo2_Click() {
     Text5.Text(MeetingText(Combo2.Text()));
 }
 
+void ExtendPanel::FollowList() {
+    if (Combo2.Text().empty()) {
+        Text5.Text("");
+    }
+}
+
 bool ExtendPanel::PlaceIt() {
     if (Combo2.Text().empty()) {
         work_.Owner().BeepBox("No Potential Intersections Exist.");
@@ -32,9 +38,7 @@ bool ExtendPanel::PlaceIt() {
     }
     Extend();
     Session::Run(work_.Calls.FindAng);
-    if (Combo2.Text().empty()) {
-        Text5.Text("");
-    }
+    FollowList();
     work_.Paint();
     return true;
 }

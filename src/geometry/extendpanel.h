@@ -20,6 +20,8 @@ public:
     TextBox Text5{*this, "Text5", {1740, 945, 3360, 300}};
 
     void Clear();
+    /// No pair is chosen any more: no point stands there either.
+    void FollowList();
     /// Both lines of the chosen pair then end where they meet; false where no pair is there to choose.
     bool PlaceIt();
 

@@ -26,7 +26,10 @@ void Form17::BindSession() {
     Work.Calls.KillCaptions = [this] { Keeping.KillCaptions(); };
     Work.Calls.KeepStuff = [this] { Keeping.KeepStuff(); };
     Work.Calls.FillLists = [this] { Frame12.FillLists(); };
-    Work.Calls.FindAng = [this] { Pairs.FindAng(); };
+    Work.Calls.FindAng = [this] {
+        Pairs.FindAng();
+        Frame10.FollowList();
+    };
     Work.Calls.OfferLines = [this](int first, int count) { Keeping.OfferLines(first, count); };
     Work.Calls.WithdrawLines = [this] { Keeping.WithdrawLines(); };
     Work.Calls.OfferCircles = [this] { Keeping.OfferCircles(); };
