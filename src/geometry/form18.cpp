@@ -61,7 +61,7 @@ std::vector<std::string> Form18::Crossings(bool lines) {
         return {};
     }
     ComboBox& pairs = drawing->Frame8.Combo1;
-    const std::vector<std::string> items = pairs.List();
+    std::vector<std::string> items = pairs.List();
     if (lines && !items.empty()) {
         pairs.ListIndex(0);
     }
