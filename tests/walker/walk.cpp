@@ -35,7 +35,9 @@ std::filesystem::path MakeFolder() {
     write("c.bcf", "0\r\n0\r\n5\r\n6\r\n30\r\n 0 \r\n");
     write("d.sin", "5\"\r\nTrue\r\nFalse\r\n30\r\n\r\n");
     write("e.pgf", "7\r\nTrue\r\nFalse\r\nTrue\r\nFalse\r\nFalse\r\n1\r\n");
-    write("rubbish", std::string("\0\x01\xFF rubbish\r\n\r\n1e999\r\n", 24));
+    using namespace std::string_literals;
+    write("f.geo", "I\r\n");
+    write("rubbish", "\0\x01\xFF rubbish\r\n\r\n1e999\r\n"s);
     return folder;
 }
 
