@@ -42,7 +42,10 @@ void Form17::BindSession() {
 
 void Form17::BindButtons() {
     Command1.Click.Bind(this, &Form17::Command1_Click);
-    Command2.Click.Bind([this] { Work.RemoveStuff(); });
+    Command2.Click.Bind([this] {
+        Hand.Leave();
+        Work.RemoveStuff();
+    });
     Command2.LostFocus.Bind(this, &Form17::Command2_LostFocus);
     Command3.Click.Bind(this, &Form17::Command3_Click);
     Command3.LostFocus.Bind([this] { Work.CancelIt(); });
@@ -167,6 +170,7 @@ void Form17::Exit_Click() {
 }
 
 void Form17::Form_Resize() {
+    Hand.Leave();
     UsePBoxData();
 }
 
@@ -174,7 +178,9 @@ void Form17::Form_MouseMove(const Mouse& /*mouse*/) {
     Hand.ForgetPosition();
 }
 
+// A press on a button takes the pointer off the picture, so that nothing lights up in what it repaints.
 void Form17::Command1_Click() {
+    Hand.Leave();
     if ((Frame1.Visible() && Frame1.RefuseByLimit()) || (Frame2.Visible() && Frame2.RefuseByLimit()) ||
         (Frame3.Visible() && Frame3.RefuseByLimit())) {
         return;
@@ -196,6 +202,7 @@ void Form17::Command2_LostFocus() {
 }
 
 void Form17::Command3_Click() {
+    Hand.Leave();
     Session::Run(Work.Calls.KeepStuff);
     Work.CancelIt();
 }

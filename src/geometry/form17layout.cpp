@@ -142,6 +142,7 @@ void Form17::MoveLabelRow(double top) {
 }
 
 void Form17::Command9_Click() {
+    Hand.Leave();
     if (!Work.Enlarged()) {
         Enlarge();
         return;
