@@ -65,6 +65,8 @@ void Keep::KeepAll() {
 }
 
 void Keep::KeepStuff() {
+    // The pointer has gone to a button: nothing lights up on the picture.
+    work_.Pass.View.PointerOver = false;
     const bool connecting = work_.Pressed("Connect");
     const bool tangent = work_.Pressed("CircTan");
     if ((connecting && NoCaption(connect_.KeepButtons())) || (tangent && NoCaption(tangent_.KeepButtons()))) {

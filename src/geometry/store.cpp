@@ -40,6 +40,23 @@ bool EndsWithinLine(const Folder& folder, std::string_view name) {
     return last != '\n' && last != '\r';
 }
 
+/// Deletes the hidden files that a run which was killed in the middle of a rewrite has left. No other run is in the
+/// middle of one: a working directory has one run at a time.
+void DropTornRewrites(const Folder& folder) {
+    std::error_code error;
+    std::vector<std::string> torn;
+    for (std::filesystem::directory_iterator entry(folder.PathOf("."), error), end; !error && entry != end;
+         entry.increment(error)) {
+        const std::string name = entry->path().filename().string();
+        if (name.starts_with(".brindlex-") && name.ends_with(".tmp")) {
+            torn.push_back(name);
+        }
+    }
+    for (const std::string& name : torn) {
+        folder.KillIfThere(name);
+    }
+}
+
 bool Empty(const Folder& folder, std::string_view name) {
     return Guarded([&] { folder.OpenOutput(name).Close(); });
 }
@@ -111,6 +128,7 @@ bool Store::Clear() const {
 }
 
 bool Store::Begin() const {
+    Guarded([&] { DropTornRewrites(*folder_); });
     KillLineCopy();
     const bool copied = Empty(*folder_, scratch::LineCopy);
     return Clear() && copied;

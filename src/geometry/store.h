@@ -49,6 +49,7 @@ public:
     /// Empties the store: deleted, then created empty.
     bool Clear() const;
     /// Clear, and the same with the copy of the line records (the form loads).
+    /// What a killed run left half written goes.
     bool Begin() const;
     /// Deletes the store and every scratch file left over (the form ends).
     void End() const;

@@ -96,6 +96,15 @@ TEST(GeometryStore, BeginsAndEnds) {
     EXPECT_EQ(folder.Get("geometry.dat"), "");
 }
 
+TEST(GeometryStore, BeginDropsWhatAKilledRunLeftHalfWritten) {
+    const TestFolder folder;
+    for (const char* name : {".brindlex-4711-0.tmp", ".brindlex-4711-0.geo", "my.brindlex-1.tmp"}) {
+        folder.Put(name, "half a rec");
+    }
+    EXPECT_TRUE(Store(folder.Files()).Begin());
+    EXPECT_EQ(folder.Names(), (Lines{".brindlex-4711-0.geo", "aaaa.tmp", "geometry.dat", "my.brindlex-1.tmp"}));
+}
+
 TEST(GeometryStore, CopyOfTheLineRecords) {
     const TestFolder folder;
     const Store store(folder.Files());
