@@ -7,6 +7,7 @@
 #include "desktop/windowcapture.h"
 #include "frame/fontwidths.h"
 
+#include <QFont>
 #include <QFontMetricsF>
 #include <QPainter>
 #include <QPainterPath>
@@ -16,6 +17,7 @@
 #include <cmath>
 #include <numbers>
 #include <optional>
+#include <string>
 
 namespace brindlex {
 
@@ -52,6 +54,31 @@ private:
     double y_;
 };
 
+// The face of the last text on the screen; the next one mostly has the same, and a face is dear to find.
+struct Face {
+    std::string name;
+    double points = 0;
+    bool bold = false;
+    QFont font;
+    double ascent = 0;
+
+    void Take(const std::string& newName, double newPoints, bool newBold) {
+        if (newName != name || newPoints != points || newBold != bold) {
+            name = newName;
+            points = newPoints;
+            bold = newBold;
+            font = ScreenFont(name, points, bold);
+            ascent = QFontMetricsF(font).ascent();
+        }
+    }
+};
+
+// Where a drawing goes.
+struct Target {
+    QRectF area;
+    Face face;
+};
+
 QPen PenOf(const DrawItem& item) {
     QPen pen(ToQt(item.Ink), std::max(item.DrawWidth, 1));
     if (item.DrawStyle > 0 && item.DrawStyle < static_cast<int>(PenStyles.size())) {
@@ -86,14 +113,14 @@ std::optional<QLineF> CutTo(const QLineF& line, const QRectF& area) {
     return QLineF(line.pointAt(from), line.pointAt(to));
 }
 
-void PaintLine(QPainter& painter, const DrawItem& item, const Across& across, const QRectF& target) {
+void PaintLine(QPainter& painter, const DrawItem& item, const Across& across, Target& target) {
     const auto from = across(item.X1, item.Y1);
     const auto to = across(item.X2, item.Y2);
     if (!from || !to) {
         return;
     }
     const double margin = item.DrawWidth + 1;
-    const auto line = CutTo(QLineF(*from, *to), target.adjusted(-margin, -margin, margin, margin));
+    const auto line = CutTo(QLineF(*from, *to), target.area.adjusted(-margin, -margin, margin, margin));
     if (!line) {
         return;
     }
@@ -107,7 +134,7 @@ void PaintLine(QPainter& painter, const DrawItem& item, const Across& across, co
     }
 }
 
-void PaintBox(QPainter& painter, const DrawItem& item, const Across& across, const QRectF& target) {
+void PaintBox(QPainter& painter, const DrawItem& item, const Across& across, Target& target) {
     const auto from = across(item.X1, item.Y1);
     const auto to = across(item.X2, item.Y2);
     if (!from || !to) {
@@ -115,7 +142,7 @@ void PaintBox(QPainter& painter, const DrawItem& item, const Across& across, con
     }
     painter.setRenderHint(QPainter::Antialiasing, false);
     if (item.Filled) {
-        painter.fillRect(QRectF(*from, *to).normalized().intersected(target), ToQt(item.Ink));
+        painter.fillRect(QRectF(*from, *to).normalized().intersected(target.area), ToQt(item.Ink));
         return;
     }
     const QPointF corners[] = {*from, {to->x(), from->y()}, *to, {from->x(), to->y()}, *from};
@@ -123,7 +150,7 @@ void PaintBox(QPainter& painter, const DrawItem& item, const Across& across, con
     painter.setPen(PenOf(item));
     for (int side = 0; side < 4; ++side) {
         const auto line =
-            CutTo(QLineF(corners[side], corners[side + 1]), target.adjusted(-margin, -margin, margin, margin));
+            CutTo(QLineF(corners[side], corners[side + 1]), target.area.adjusted(-margin, -margin, margin, margin));
         if (line) {
             painter.drawLine(*line);
         }
@@ -154,7 +181,7 @@ void PaintLargeCircle(QPainter& painter, const QPointF& centre, double radius, c
     painter.drawPolyline(arc);
 }
 
-void PaintCircle(QPainter& painter, const DrawItem& item, const Across& across, const QRectF& target) {
+void PaintCircle(QPainter& painter, const DrawItem& item, const Across& across, Target& target) {
     const auto centre = across(item.X1, item.Y1);
     const double radius = across.Radius(item.Radius);
     if (!centre || !(radius < FarthestPlace)) {
@@ -164,7 +191,7 @@ void PaintCircle(QPainter& painter, const DrawItem& item, const Across& across, 
     painter.setPen(PenOf(item));
     painter.setBrush(Qt::NoBrush);
     if (radius > LargestCircle) {
-        PaintLargeCircle(painter, *centre, radius, target);
+        PaintLargeCircle(painter, *centre, radius, target.area);
     } else {
         painter.drawEllipse(*centre, radius, radius);
     }
@@ -172,10 +199,11 @@ void PaintCircle(QPainter& painter, const DrawItem& item, const Across& across, 
 
 // Where the painter is scaled, as on paper, letters are set in twips: pixels would be too coarse for their widths.
 void PaintText(QPainter& painter, const QString& text, const QPointF& corner, const std::string& fontName,
-               double points, bool bold) {
+               double points, bool bold, Face& face) {
     if (painter.worldTransform().type() <= QTransform::TxTranslate) {
-        painter.setFont(ScreenFont(fontName, points, bold));
-        painter.drawText(QPointF(corner.x(), corner.y() + QFontMetricsF(painter.font()).ascent()), text);
+        face.Take(fontName, points, bold);
+        painter.setFont(face.font);
+        painter.drawText(QPointF(corner.x(), corner.y() + face.ascent), text);
         return;
     }
     painter.save();
@@ -186,18 +214,18 @@ void PaintText(QPainter& painter, const QString& text, const QPointF& corner, co
     painter.restore();
 }
 
-void PaintTextItem(QPainter& painter, const DrawItem& item, const Across& across, const QRectF& /*target*/) {
+void PaintTextItem(QPainter& painter, const DrawItem& item, const Across& across, Target& target) {
     if (const auto corner = across(item.X1, item.Y1)) {
         painter.setPen(ToQt(item.Ink));
-        PaintText(painter, FromText(item.Text), *corner, item.FontName, item.FontSize, item.Bold);
+        PaintText(painter, FromText(item.Text), *corner, item.FontName, item.FontSize, item.Bold, target.face);
     }
 }
 
-using Paint = void (*)(QPainter&, const DrawItem&, const Across&, const QRectF&);
+using Paint = void (*)(QPainter&, const DrawItem&, const Across&, Target&);
 // In the order of DrawKind.
 constexpr std::array<Paint, 4> Paints = {PaintLine, PaintBox, PaintCircle, PaintTextItem};
 
-void PaintLabel(QPainter& painter, const SnapshotLabel& label) {
+void PaintLabel(QPainter& painter, const SnapshotLabel& label, Face& face) {
     const QRectF place = PixelRect(label.Where);
     constexpr double Inset = 3;
     painter.save();
@@ -214,7 +242,7 @@ void PaintLabel(QPainter& painter, const SnapshotLabel& label) {
     const double down = label.Framed ? std::max((place.height() - lineHeight) / 2, 0.0) : 0;
     const double right = label.Framed ? Inset : 0;
     PaintText(painter, FromText(label.Text), place.topLeft() + QPointF(right, down), "Arial", label.FontSize,
-              label.Bold);
+              label.Bold, face);
     painter.restore();
 }
 
@@ -223,9 +251,10 @@ void PaintLabel(QPainter& painter, const SnapshotLabel& label) {
 void PaintDrawing(QPainter& painter, const Drawing& drawing, const QRectF& target) {
     painter.save();
     painter.setClipRect(target, Qt::IntersectClip);
+    Target to{target, {}};
     for (const DrawItem& item : drawing.Items()) {
         if (item.Scale.Width != 0 && item.Scale.Height != 0) {
-            Paints[static_cast<std::size_t>(item.Kind)](painter, item, Across(item.Scale, target), target);
+            Paints[static_cast<std::size_t>(item.Kind)](painter, item, Across(item.Scale, target), to);
         }
     }
     painter.restore();
@@ -247,8 +276,9 @@ void PaintSnapshot(QPainter& painter, const Snapshot& picture, const QRectF& tar
         painter.scale(target.width() / own.width(), target.height() / own.height());
     }
     PaintDrawing(painter, *picture.Drawn, own);
+    Face face;
     for (const SnapshotLabel& label : picture.Labels) {
-        PaintLabel(painter, label);
+        PaintLabel(painter, label, face);
     }
     painter.restore();
 }
