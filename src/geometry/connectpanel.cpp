@@ -181,8 +181,13 @@ void ConnectPanel::ConnectStuff() {
     }
     live.Append(records);
     made_ = static_cast<int>(candidates.size());
-    Session::Run(work_.Calls.TellTouching, EveryLineTouches(lines, first, second, candidates));
+    const bool touching = EveryLineTouches(lines, first, second, candidates);
+    Session::Run(work_.Calls.TellTouching, touching);
     Session::Run(work_.Calls.FindAng);
+    if (!touching) {
+        // Circles of a size that was left in its box, which touch, do not speak for the lines.
+        Session::Run(work_.Calls.TellTouching, false);
+    }
 }
 
 void ConnectPanel::RefuseByLimit(ConnectLimit limit) {

@@ -26,7 +26,10 @@ void Form17::BindMenus() {
     PrntWin.Click.Bind(this, &Form17::PrntWin_Click);
     PrntPic.Click.Bind(this, &Form17::PrntPic_Click);
     Exit.Click.Bind(this, &Form17::Exit_Click);
-    RemoveIt.Click.Bind([this] { Work.RemoveStuff(); });
+    RemoveIt.Click.Bind([this] {
+        Hand.Leave();
+        Work.RemoveStuff();
+    });
     AutoFit.Click.Bind([this] { AutoFit.Checked(!AutoFit.Checked()); });
     NoNums.Click.Bind(this, &Form17::NoNums_Click);
     ExactTan.Click.Bind([this] { ExactTan.Checked(!ExactTan.Checked()); });
