@@ -36,7 +36,8 @@ need_packages() {
 }
 
 # What the program itself is built from and runs with.
-program_packages=(cmake g++ ninja-build qt6-base-dev libgl1-mesa-dev nlohmann-json3-dev fonts-liberation)
+program_packages=(cmake g++ ninja-build qt6-base-dev libgl1-mesa-dev nlohmann-json3-dev libcli11-dev libdxflib-dev
+    fonts-liberation)
 # A screen for a machine that has none.
 screen_packages=(xvfb xauth)
 # What the tests need besides.

@@ -2,8 +2,9 @@
 """Checks who includes whom in src/ and prints each line that breaks a rule: check_includes.py [SRC]
 
   - a room includes only the rooms that it may look into (ROOMS)
-  - Qt stands in desktop and app alone, nlohmann's JSON in headless and app alone
-  - files that only think (THINKING) reach no header of the form surface, of a form or of a runtime, by any way
+  - Qt stands in desktop and app alone, nlohmann's JSON in headless, cli and app alone, CLI11 and dxflib in cli alone
+  - files that only think (THINKING), and all of cli, reach no header of the form surface, of a form or of a runtime,
+    by any way; nor does the program brindlex-cli
   - no header reaches itself
 """
 
@@ -20,7 +21,8 @@ ROOMS = {
     **{calculator: ["services", "frame"] for calculator in CALCULATORS},
     "desktop": ["frame"],
     "headless": ["frame"],
-    "app": ["frame", "services", *CALCULATORS, "desktop", "headless"],
+    "cli": ["frame", "services", *CALCULATORS],
+    "app": ["frame", "services", *CALCULATORS, "desktop", "headless", "cli"],
 }
 
 # Files that think and show nothing, by the first word of their names.
@@ -30,6 +32,9 @@ THINKING = {"solver", "record", "records", "rules", "store", "calculation", "con
 # The roots of the form surface in frame: what a thinking file may not reach. All else of the surface includes one.
 SURFACE = {"commondialog", "control", "dispatch", "drawing", "event", "form", "menuitem", "printer", "program",
            "runtime", "snapshot"}
+
+# Rooms and programs that know no form at all.
+FORMLESS = ("cli/", "app/cli.cpp")
 
 # Words in the names of headers that belong to forms and runtimes, in any other room.
 SHOWING = ("form", "panel", "dialog", "runtime", "control", "diagram", "drawpass", "viewport")
@@ -75,7 +80,9 @@ def arrow_fault(file, quote, name, files):
     if re.match(r"Q[A-Z]|Qt|q[a-z]+platform", name) and "." not in name.split("/")[0]:
         return None if room in ("desktop", "app") else "Qt stands in desktop and app alone"
     if name.startswith("nlohmann/"):
-        return None if room in ("headless", "app") else "JSON stands in headless and app alone"
+        return None if room in ("headless", "cli", "app") else "JSON stands in headless, cli and app alone"
+    if name.startswith(("CLI/", "dxflib/")):
+        return None if room == "cli" else "CLI11 and dxflib stand in cli alone"
     if quote == "<":
         return None
     goal = target(file, name, files)
@@ -125,10 +132,10 @@ def faults_of(files):
             if fault := arrow_fault(file, quote, name, files):
                 yield f"src/{file}:{number}: {line}    {fault}"
         room = file.partition("/")[0]
-        if word(file) in THINKING and room not in ("desktop", "headless", "app"):
+        if file.startswith(FORMLESS) or word(file) in THINKING and room not in ("desktop", "headless", "app"):
             if way := way_to_showing(file, files):
                 number, line, goal = way[0][1], way[0][2], way[-1][3]
-                yield f"src/{file}:{number}: {line}    a file that thinks reaches {goal}"
+                yield f"src/{file}:{number}: {line}    a file that knows no form reaches {goal}"
         if file.endswith(".h") and circle(file, files):
             yield f"src/{file}:1: the header includes itself by a circle"
 

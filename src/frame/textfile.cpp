@@ -170,6 +170,25 @@ std::size_t PrintLine::Column() const {
     return end == std::string::npos ? line_.size() : line_.size() - end - LineEnd.size();
 }
 
+InputFile::InputFile(const fs::path& path) {
+    std::error_code error = NotAFile(path);
+    if (error) {
+        throw SystemFault(error);
+    }
+    const fs::file_type type = fs::status(path, error).type();
+    if (type == fs::file_type::not_found) {
+        throw Fault(FaultNumber::FileNotFound);
+    }
+    if (type == fs::file_type::character) {
+        throw SystemFault(std::make_error_code(std::errc::no_such_device_or_address));  // some never end
+    }
+    errno = 0;
+    stream_.open(path, std::ios::binary);
+    if (!stream_) {
+        throw StreamFault();
+    }
+}
+
 std::string InputFile::LineInput() {
     if (Eof()) {
         throw Fault(FaultNumber::FileIo, "Input past end of file");
@@ -199,6 +218,14 @@ bool InputFile::Eof() {
     } catch (const std::ios_base::failure& failure) {
         throw SystemFault(failure.code());
     }
+}
+
+std::vector<std::string> InputFile::AllLines() {
+    std::vector<std::string> lines;
+    while (!Eof()) {
+        lines.push_back(LineInput());
+    }
+    return lines;
 }
 
 void OutputFile::Print(std::string_view text) {
@@ -258,24 +285,7 @@ bool Folder::Exists(std::string_view name) const {
 }
 
 InputFile Folder::OpenInput(std::string_view name) const {
-    const fs::path path = PathOf(name);
-    std::error_code error = NotAFile(path);
-    if (error) {
-        throw SystemFault(error);
-    }
-    const fs::file_type type = fs::status(path, error).type();
-    if (type == fs::file_type::not_found) {
-        throw Fault(FaultNumber::FileNotFound);
-    }
-    if (type == fs::file_type::character) {
-        throw SystemFault(std::make_error_code(std::errc::no_such_device_or_address));  // some never end
-    }
-    errno = 0;
-    std::ifstream stream(path, std::ios::binary);
-    if (!stream) {
-        throw StreamFault();
-    }
-    return InputFile(std::move(stream));
+    return InputFile(PathOf(name));
 }
 
 OutputFile Folder::OpenOutput(std::string_view name) const {

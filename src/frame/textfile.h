@@ -40,14 +40,17 @@ private:
 /// A file open for input. Lines end at carriage return and line feed, at a lone carriage return or a lone line feed.
 class InputFile {
 public:
+    /// Throws FileNotFound or FileIo (PermissionDenied where it is that) when the file can't be opened; a folder, a
+    /// pipe or a socket in the file's place can't. A device can't be read from: a source of zeros never ends.
+    explicit InputFile(const std::filesystem::path& path);
+
     /// The next line without its line end. Throws FileIo (input past end) at the end of the file.
     [[nodiscard]] std::string LineInput();
     [[nodiscard]] bool Eof();
+    /// The lines that are left.
+    [[nodiscard]] std::vector<std::string> AllLines();
 
 private:
-    friend class Folder;
-    explicit InputFile(std::ifstream stream) : stream_(std::move(stream)) {}
-
     std::ifstream stream_;
 };
 
@@ -86,8 +89,7 @@ public:
     /// Whether a file, no folder, has this name.
     [[nodiscard]] bool Exists(std::string_view name) const;
 
-    /// Throw FileNotFound or FileIo (PermissionDenied where it is that) when the file can't be opened; a folder, a
-    /// pipe or a socket in the file's place can't. A device can't be read from: a source of zeros never ends.
+    /// Throw as InputFile does when the file can't be opened.
     [[nodiscard]] InputFile OpenInput(std::string_view name) const;
     [[nodiscard]] OutputFile OpenOutput(std::string_view name) const;
     [[nodiscard]] OutputFile OpenAppend(std::string_view name) const;

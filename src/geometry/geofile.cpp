@@ -18,15 +18,6 @@ constexpr int OpenFlags = 12;
 constexpr int SaveFlags = 14;
 constexpr int FewestToConnect = 2;
 
-std::vector<std::string> AllLines(const Folder& folder, std::string_view name) {
-    std::vector<std::string> lines;
-    InputFile file = folder.OpenInput(name);
-    while (!file.Eof()) {
-        lines.push_back(file.LineInput());
-    }
-    return lines;
-}
-
 std::string RecoveredName(int count) {
     return count == 1 ? "recovered.geo" : "recovered-" + std::to_string(count) + ".geo";
 }
@@ -37,19 +28,6 @@ bool Taken(const Folder& folder, const std::string& name) {
 }
 
 }  // namespace
-
-std::optional<Unit> UnitOf(std::string_view line) {
-    if (line == "I") {
-        return Unit::Inch;
-    }
-    return line == "M" ? std::optional(Unit::Millimeter) : std::nullopt;
-}
-
-std::vector<std::string> GeoLines(const std::vector<std::string>& records, Unit unit) {
-    std::vector<std::string> lines{unit == Unit::Inch ? "I" : "M"};
-    lines.insert(lines.end(), records.begin(), records.end());
-    return lines;
-}
 
 std::optional<std::string> RecoverLeftOver(const Folder& folder) {
     constexpr int MostRecovered = 10000;
@@ -85,7 +63,7 @@ void GeoFile::Open() {
     }
     // Read before the board is cleared: the file may be the live drawing itself.
     std::vector<std::string> lines;
-    const bool read = Guarded([&] { lines = AllLines(work_.Owner().Files(), dialog_.FileName()); });
+    const bool read = Guarded([&] { lines = work_.Owner().Files().OpenInput(dialog_.FileName()).AllLines(); });
     calls_.NewStuff();
     if (!read) {
         dialog_.FileName(before);

@@ -5,19 +5,14 @@
 #include "frame/commondialog.h"
 #include "frame/textfile.h"
 #include "geometry/session.h"
+#include "geometry/unit.h"
 
 #include <functional>
 #include <optional>
 #include <string>
-#include <string_view>
 #include <vector>
 
 namespace brindlex::geometry {
-
-/// The unit that a line of a drawing file names; nothing for any other line.
-[[nodiscard]] std::optional<Unit> UnitOf(std::string_view line);
-/// The lines of a drawing file.
-[[nodiscard]] std::vector<std::string> GeoLines(const std::vector<std::string>& records, Unit unit);
 
 /// Saves a live drawing that was left over, if it holds entities, as recovered.geo, recovered-2.geo and so on: the
 /// first name that is free. The name; nothing where there was nothing to save.

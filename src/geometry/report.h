@@ -2,7 +2,7 @@
 // Units: those of the drawing, degrees. Includes no control, form or runtime.
 #pragma once
 
-#include "geometry/viewport.h"
+#include "geometry/unit.h"
 
 #include <string>
 #include <vector>

@@ -3,12 +3,11 @@
 #pragma once
 
 #include "geometry/board.h"
+#include "geometry/unit.h"
 
 #include <optional>
 
 namespace brindlex::geometry {
-
-enum class Unit { Inch, Millimeter };
 
 /// The view that a new drawing begins with.
 [[nodiscard]] Scale FirstView(Unit unit);

@@ -1,0 +1,35 @@
+// Drawing files.
+#include "cli/drawing.h"
+
+#include "cli/failure.h"
+#include "cli/files.h"
+#include "geometry/record.h"
+
+#include <algorithm>
+
+namespace brindlex::cli {
+
+using geometry::KindOf;
+using geometry::UnitOf;
+
+Drawing ReadDrawing(const std::filesystem::path& file) {
+    Drawing drawing;
+    const std::vector<std::string> lines = LinesOf(file);
+    const bool belongs = std::any_of(lines.begin(), lines.end(), [](const std::string& line) {
+        return UnitOf(line) || KindOf(line) != geometry::Kind::None;
+    });
+    if (!belongs) {
+        throw Failure(Exit::BadInput, file.string() + ": this is no drawing");
+    }
+    // A line that names a unit is acted upon wherever it stands: intended.
+    for (const std::string& line : lines) {
+        if (const auto unit = UnitOf(line)) {
+            drawing.Measure = *unit;
+        } else {
+            drawing.Records.push_back(line);
+        }
+    }
+    return drawing;
+}
+
+}  // namespace brindlex::cli

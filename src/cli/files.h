@@ -1,0 +1,18 @@
+// Files by their paths, with faults told as failures that name the file.
+#pragma once
+
+#include <cstddef>
+#include <filesystem>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace brindlex::cli {
+
+/// The lines of a file. Throws Failure (Disk).
+[[nodiscard]] std::vector<std::string> LinesOf(const std::filesystem::path& file);
+
+/// Writes a file in one step: the old file or the new one, whole, at any moment. Throws Failure (Disk).
+void WriteWhole(const std::filesystem::path& file, std::string_view content);
+
+}  // namespace brindlex::cli
