@@ -2,6 +2,7 @@
 #include "app/forms.h"
 #include "desktop/desktopplayer.h"
 #include "desktop/desktopruntime.h"
+#include "desktop/housestyle.h"
 #include "headless/driver.h"
 
 #include <QApplication>
@@ -22,14 +23,16 @@ void TellWarnings(QtMsgType /*type*/, const QMessageLogContext& /*context*/, con
 
 int RunScripted(int argc, char** argv) {
     qInstallMessageHandler(TellWarnings);
-    QApplication::setStyle(QStringLiteral("Fusion"));
     const QApplication application(argc, argv);
+    DressApplication();
     QApplication::setQuitOnLastWindowClosed(false);
     DriverParts parts;
     parts.MakeRuntime = [](DrivenRun& run, Size screen) -> std::unique_ptr<Runtime> {
         auto runtime = std::make_unique<DesktopRuntime>(run, screen);
         // Where somebody wants to see them, the pages that a script prints are kept as files.
         runtime->PrintInto(qEnvironmentVariable("BRINDLEX_PRINTS"));
+        // So are pictures of the boxes that come up on the way.
+        runtime->PictureBoxesAs(qEnvironmentVariable("BRINDLEX_BOXES"));
         return runtime;
     };
     parts.MakePlayer = [](Runtime& runtime, DrivenRun& /*run*/) -> std::unique_ptr<Player> {

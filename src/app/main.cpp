@@ -4,6 +4,7 @@
 #include "app/onlyone.h"
 #include "app/workplace.h"
 #include "desktop/desktopruntime.h"
+#include "desktop/housestyle.h"
 #include "frame/form.h"
 #include "frame/program.h"
 
@@ -32,8 +33,8 @@ int RunProgram(int argc, char** argv) {
         return 0;
     }
     EndSignals endSignals;
-    QApplication::setStyle(QStringLiteral("Fusion"));
     const QApplication application(argc, argv);
+    DressApplication();
     QApplication::setQuitOnLastWindowClosed(false);
 
     DesktopRuntime runtime;

@@ -6,6 +6,7 @@
 #include <QCoreApplication>
 #include <QInputDialog>
 #include <QMessageBox>
+#include <QPixmap>
 #include <QPushButton>
 
 #include <utility>
@@ -82,16 +83,23 @@ Answer AnswerOf(const QMessageBox& shown, int result) {
                                                                  : Answer::Ok;
 }
 
+void StandFor(QDialog& shown, const QString& picture) {
+    QCoreApplication::processEvents();
+    if (!picture.isEmpty()) {
+        shown.grab().save(picture);
+    }
+}
+
 }  // namespace
 
-Answer AskMessageBox(QWidget* parent, const MessageBox& box, std::optional<Answer> known) {
+Answer AskMessageBox(QWidget* parent, const MessageBox& box, std::optional<Answer> known, const QString& picture) {
     QMessageBox shown(parent);
     Furnish(shown, box);
     if (!known) {
         return AnswerOf(shown, shown.exec());
     }
     shown.open();
-    QCoreApplication::processEvents();
+    StandFor(shown, picture);
     QAbstractButton* const button = shown.button(ButtonOf(*known));
     if (button == nullptr) {
         return *known;
@@ -100,7 +108,8 @@ Answer AskMessageBox(QWidget* parent, const MessageBox& box, std::optional<Answe
     return AnswerOf(shown, shown.result());
 }
 
-std::string AskInputBox(QWidget* parent, const InputBox& box, const std::optional<std::string>& known) {
+std::string AskInputBox(QWidget* parent, const InputBox& box, const std::optional<std::string>& known,
+                        const QString& picture) {
     QInputDialog shown(parent);
     shown.setWindowTitle(FromText(box.Title));
     shown.setLabelText(FromLines(box.Prompt));
@@ -109,7 +118,7 @@ std::string AskInputBox(QWidget* parent, const InputBox& box, const std::optiona
         return shown.exec() == QDialog::Accepted ? ToText(shown.textValue()) : std::string();
     }
     shown.open();
-    QCoreApplication::processEvents();
+    StandFor(shown, picture);
     shown.setTextValue(FromText(*known));
     std::string typed = ToText(shown.textValue());
     shown.accept();

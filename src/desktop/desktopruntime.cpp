@@ -193,18 +193,23 @@ Snapshot DesktopRuntime::CaptureClient(Form& form) {
     return snapshot;
 }
 
+QString DesktopRuntime::NextBoxPicture() {
+    ++boxes_;
+    return boxPictures_.isEmpty() ? QString() : QStringLiteral("%1-%2.png").arg(boxPictures_).arg(boxes_);
+}
+
 Answer DesktopRuntime::ShowMessageBox(const MessageBox& box) {
     if (run_ == nullptr) {
         return AskMessageBox(Front(), box, std::nullopt);
     }
-    return AskMessageBox(Front(), box, run_->AnswerBox(box));
+    return AskMessageBox(Front(), box, run_->AnswerBox(box), NextBoxPicture());
 }
 
 std::string DesktopRuntime::ShowInputBox(const InputBox& box) {
     if (run_ == nullptr) {
         return AskInputBox(Front(), box, std::nullopt);
     }
-    return AskInputBox(Front(), box, run_->AnswerInput());
+    return AskInputBox(Front(), box, run_->AnswerInput(), NextBoxPicture());
 }
 
 std::optional<std::string> DesktopRuntime::ShowFileDialog(const DialogRequest& request) {

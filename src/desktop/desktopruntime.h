@@ -33,6 +33,8 @@ public:
     void StartDialogsIn(const QString& folder) { files_.StartIn(folder); }
     /// Driven, printed documents are written here as print-1.pdf and so on; nowhere where it is empty.
     void PrintInto(const QString& folder) { printFolder_ = folder; }
+    /// Driven, pictures of the boxes are written as PREFIX-1.png and so on; nowhere where it is empty.
+    void PictureBoxesAs(const QString& prefix) { boxPictures_ = prefix; }
     /// Null for a form without a window.
     [[nodiscard]] FormWindow* WindowOf(const Form& form) const;
     /// Brings what is open to the front.
@@ -81,6 +83,7 @@ private:
     void ShowWaiting();
     void LeaveLoopsOf(const Form& form);
     [[nodiscard]] QWidget* Front();
+    [[nodiscard]] QString NextBoxPicture();
 
     DrivenRun* run_ = nullptr;
     Size screen_;
@@ -92,6 +95,8 @@ private:
     FileAsker files_;
     Paper paper_;
     QString printFolder_;
+    QString boxPictures_;
+    int boxes_ = 0;
     int prints_ = 0;
     bool over_ = false;
 };

@@ -4,6 +4,7 @@
 #include "desktop/accessiblenames.h"
 #include "desktop/looks.h"
 #include "desktop/pixels.h"
+#include "desktop/sideways.h"
 #include "desktop/texts.h"
 
 #include <QCloseEvent>
@@ -205,6 +206,9 @@ void FormWindow::keyPressEvent(QKeyEvent* event) {
     CommandButton* const button = enter                            ? form_.DefaultButton()
                                   : event->key() == Qt::Key_Escape ? form_.CancelButton()
                                                                    : nullptr;
+    if (TakeSideKey(*this, *event)) {
+        return;
+    }
     if (button != nullptr && button->IsUsable()) {
         ByPerson([button] { button->PressByPerson(); });
     } else {
@@ -217,8 +221,10 @@ bool FormWindow::focusNextPrevChild(bool next) {
         // A widget that was disabled or hidden hands its focus on to nobody.
         return false;
     }
-    form_.TabByPerson(!next);
-    SyncFocus();
+    if (!TabOverLinks(*this, next)) {
+        form_.TabByPerson(!next);
+        SyncFocus();
+    }
     return true;
 }
 

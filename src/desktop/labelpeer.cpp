@@ -2,11 +2,10 @@
 #include "desktop/labelpeer.h"
 
 #include "desktop/formwindow.h"
+#include "desktop/linklabel.h"
 #include "desktop/looks.h"
 #include "desktop/texts.h"
 #include "frame/picturebox.h"
-
-#include <QLabel>
 
 namespace brindlex {
 
@@ -15,23 +14,39 @@ namespace {
 // In the order of Label::Alignment.
 constexpr Qt::AlignmentFlag Alignments[] = {Qt::AlignLeft, Qt::AlignRight, Qt::AlignHCenter};
 
+QLabel* MakeWidget(FormWindow& window, Label& label) {
+    QWidget* const inside = window.Inside(label.Container());
+    if (!label.Click.IsBound()) {
+        return new QLabel(inside);
+    }
+    return new LinkLabel(inside, [&window, &label] {
+        window.ByPerson([&] {
+            if (label.IsUsable()) {
+                label.Fire(label.Click, "Click");
+            }
+        });
+    });
+}
+
 }  // namespace
 
 LabelPeer::LabelPeer(FormWindow& window, Label& label)
-    : Peer(window, label, new QLabel(window.Inside(label.Container()))),
-      label_(label),
-      text_(static_cast<QLabel*>(Widget())) {
+    : Peer(window, label, MakeWidget(window, label)), label_(label), text_(static_cast<QLabel*>(Widget())) {
     text_->setTextFormat(Qt::PlainText);
-    text_->setAlignment(Alignments[static_cast<std::size_t>(label.Align())] | Qt::AlignTop);
+    text_->setAlignment(Alignments[static_cast<std::size_t>(label.Align())] |
+                        (label.Click.IsBound() ? Qt::AlignVCenter : Qt::AlignTop));
     text_->setWordWrap(!label.AutoSize());
-    if (label.Click.IsBound()) {
-        text_->setCursor(Qt::PointingHandCursor);
-    }
 }
 
 void LabelPeer::MirrorOwn(Aspect aspect) {
     if (aspect == Aspect::All || aspect == Aspect::Caption) {
         text_->setText(FromLines(label_.Caption()));
+    }
+    if ((aspect == Aspect::All || aspect == Aspect::Look) && label_.Click.IsBound()) {
+        // The mark of a link that does not lie in its colour alone.
+        QFont font = text_->font();
+        font.setUnderline(true);
+        text_->setFont(font);
     }
     if (aspect == Aspect::All || aspect == Aspect::Order || aspect == Aspect::Look) {
         // On a picture a label covers what is drawn beneath it, unless it lets it shine through.

@@ -20,7 +20,12 @@ constexpr double PixelsPerInch = TwipsPerInch / TwipsPerPixel;
 
 // Of 255.
 constexpr int DarkBelow = 128;
-constexpr int LeastLight = 165;
+constexpr int Lightest = 255;
+
+// What text needs to be read by everyone: the contrast of two luminances a and b is (a + 0.05) / (b + 0.05), as the Web
+// Content Accessibility Guidelines define it, who ask for 4.5.
+constexpr double LeastContrast = 4.5;
+constexpr double Haze = 0.05;
 
 struct Face {
     const char* name;
@@ -54,10 +59,20 @@ QFont Named(const std::string& name, bool bold) {
     return font;
 }
 
+// Of 1; by the same guidelines.
+double Luminance(const QColor& colour) {
+    const auto linear = [](double share) {
+        return share <= 0.04045 ? share / 12.92 : std::pow((share + 0.055) / 1.055, 2.4);
+    };
+    return 0.2126 * linear(colour.redF()) + 0.7152 * linear(colour.greenF()) + 0.0722 * linear(colour.blueF());
+}
+
 }  // namespace
 
 QFont ScreenFont(const std::string& name, double points, bool bold) {
     QFont font = Named(name, bold);
+    // Sharp across, but as wide at every size as the outlines say, so that what fits a box at one size fits at all.
+    font.setHintingPreference(QFont::PreferVerticalHinting);
     // A point is 20 twips whatever resolution the screen claims.
     const QScreen* const screen = QGuiApplication::primaryScreen();
     const double claimed = screen == nullptr ? PixelsPerInch : screen->logicalDotsPerInchY();
@@ -72,8 +87,21 @@ QFont TwipFont(const std::string& name, double points, bool bold) {
     return font;
 }
 
+QPalette PaperPalette(const QPalette& around) {
+    constexpr int Button = 239;
+    QPalette palette(QColor(Button, Button, Button));
+    for (const auto role : {QPalette::Highlight, QPalette::HighlightedText}) {
+        palette.setBrush(role, around.brush(role));
+    }
+    return palette;
+}
+
 QColor ToQt(Colour colour) {
     return {colour.Red, colour.Green, colour.Blue};
+}
+
+bool IsDark(const QPalette& palette) {
+    return palette.color(QPalette::Window).lightness() < DarkBelow;
 }
 
 QColor InkOn(const QPalette& palette, Colour colour) {
@@ -81,11 +109,16 @@ QColor InkOn(const QPalette& palette, Colour colour) {
         return palette.color(QPalette::WindowText);
     }
     const QColor ink = ToQt(colour);
-    const bool darkGround = palette.color(QPalette::Window).lightness() < DarkBelow;
-    if (!darkGround || ink.lightness() >= LeastLight) {
+    if (!IsDark(palette)) {
         return ink;
     }
-    return QColor::fromHsl(ink.hslHue(), ink.hslSaturation(), LeastLight);
+    const double ground = Luminance(palette.color(QPalette::Window));
+    QColor lighter = ink;
+    for (int light = ink.lightness(); light <= Lightest && Luminance(lighter) + Haze < LeastContrast * (ground + Haze);
+         ++light) {
+        lighter = QColor::fromHsl(ink.hslHue(), ink.hslSaturation(), light);
+    }
+    return lighter;
 }
 
 }  // namespace brindlex

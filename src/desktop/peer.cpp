@@ -108,13 +108,14 @@ void Peer::MirrorAspect(Aspect aspect) {
 void Peer::MirrorLook() {
     // A picture's look is that of its pen. A frame's goes on to its controls' widgets, though not to the controls.
     const Control* const outer = control_.Container().ContainerControl();
-    const bool ownGround = outer == nullptr || dynamic_cast<const PictureBox*>(outer) != nullptr || IsPlain(*outer);
+    const bool onPicture = dynamic_cast<const PictureBox*>(outer) != nullptr;
+    const bool ownGround = outer == nullptr || onPicture || IsPlain(*outer);
     if (dynamic_cast<const PictureBox*>(&control_) != nullptr || (IsPlain(control_) && ownGround && !looksOwn_)) {
         return;
     }
     looksOwn_ = true;
     widget_->setFont(ScreenFont(control_.FontName(), control_.FontSize(), control_.FontBold()));
-    QPalette palette = window_.palette();
+    QPalette palette = onPicture ? PaperPalette(window_.palette()) : window_.palette();
     if (control_.ForeColor() != Black) {
         const QColor ink = InkOn(palette, control_.ForeColor());
         for (const auto group : {QPalette::Active, QPalette::Inactive}) {

@@ -2,6 +2,7 @@
 #include "desktop/picturepeer.h"
 
 #include "desktop/formwindow.h"
+#include "desktop/looks.h"
 #include "desktop/painting.h"
 
 #include <QPainter>
@@ -39,10 +40,13 @@ PicturePeer::PicturePeer(FormWindow& window, PictureBox& picture)
 }
 
 void PicturePeer::MirrorOwn(Aspect aspect) {
-    if (aspect != Aspect::Drawing) {
-        return;
+    if (aspect == Aspect::All || aspect == Aspect::Look) {
+        // What stands on it has its colours.
+        Widget()->setPalette(PaperPalette(Window().palette()));
     }
-    Widget()->update();
+    if (aspect == Aspect::Drawing) {
+        Widget()->update();
+    }
 }
 
 }  // namespace brindlex

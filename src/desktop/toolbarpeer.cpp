@@ -4,8 +4,7 @@
 #include "desktop/formwindow.h"
 #include "desktop/texts.h"
 #include "desktop/toolicons.h"
-
-#include <QToolButton>
+#include "desktop/toolwidget.h"
 
 #include <algorithm>
 
@@ -15,18 +14,6 @@ namespace {
 
 constexpr int SeparatorWidth = 10;
 constexpr int IconInset = 3;
-
-// Shows what is mirrored and flips nothing by itself.
-class ToolWidget : public QToolButton {
-public:
-    explicit ToolWidget(QWidget* parent) : QToolButton(parent) {
-        setFocusPolicy(Qt::NoFocus);
-        setAutoRaise(true);
-    }
-
-protected:
-    void nextCheckState() override {}
-};
 
 }  // namespace
 

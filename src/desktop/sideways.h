@@ -1,0 +1,17 @@
+// Ways of the keyboard to what the surface gives no focus: the links of a form, its toolbar, and a form without
+// anything on it.
+#pragma once
+
+class QKeyEvent;
+
+namespace brindlex {
+
+class FormWindow;
+
+/// The Tab key, where the next stop is a link: links come after the last control. False where it is none.
+[[nodiscard]] bool TabOverLinks(FormWindow& window, bool next);
+/// Keys that no control has a use for: F6 goes to the toolbar and back, Escape back; Enter, Space and Escape are a
+/// click on an empty form. False for any other.
+[[nodiscard]] bool TakeSideKey(FormWindow& window, const QKeyEvent& event);
+
+}  // namespace brindlex
