@@ -1,4 +1,5 @@
-// What the drawing board costs: a pointer move over a full board, a Place It with all files written, a fit.
+// What the drawing board costs: a pointer move over a full board, a Place It with all files written, a fit, a refresh
+// of the pairs of lines, a connection.
 #include "app/forms.h"
 #include "frame/drivenrun.h"
 #include "frame/program.h"
@@ -45,19 +46,22 @@ struct Stand {
         Board->Frame1.Text3.Text(".5");
         Board->Command1.Value(true);
     }
-    /// 12 circles, 14 lines, 14 points.
-    void Fill() {
-        for (int i = 0; i < 12; ++i) {
-            PlaceCircle(0.15 * i - 1);
-        }
+    void PlaceLines(int count) {
         Board->Toolbar1.PressByPerson("Line");
-        for (int i = 0; i < 14; ++i) {
+        for (int i = 0; i < count; ++i) {
             Board->Frame2.Text6.Text(std::to_string(0.2 * i - 1));
             Board->Frame2.Text7.Text("-1");
             Board->Frame2.Text8.Text(std::to_string(0.1 * i));
             Board->Frame2.Text9.Text("1");
             Board->Command1.Value(true);
         }
+    }
+    /// 12 circles, 14 lines, 14 points.
+    void Fill() {
+        for (int i = 0; i < 12; ++i) {
+            PlaceCircle(0.15 * i - 1);
+        }
+        PlaceLines(14);
         Board->Toolbar1.PressByPerson("Point");
         for (int i = 0; i < 14; ++i) {
             Board->Frame3.Text10.Text(std::to_string(0.2 * i - 1));
@@ -111,5 +115,46 @@ void FitInWindow(benchmark::State& state) {
     }
 }
 BENCHMARK(FitInWindow)->Unit(benchmark::kMicrosecond);
+
+/// Both lists of pairs of 14 lines, the store read and the copy of the lines written and deleted.
+void RefreshOfPairs(benchmark::State& state) {
+    Stand stand;
+    stand.Fill();
+    if (stand.Board->Frame8.Combo1.ListCount() + stand.Board->Frame10.Combo2.ListCount() != 14 * 13 / 2) {
+        state.SkipWithError("not every pair is listed");
+    }
+    for (auto _ : state) {
+        stand.Board->Pairs.FindAng();
+    }
+}
+BENCHMARK(RefreshOfPairs)->Unit(benchmark::kMicrosecond);
+
+/// From the press of Place It to the picture with four tangents of two circles, on a board that has ten lines already:
+/// no board with room for a connection has more. Cancel, which takes them away again, is not counted.
+void ConnectTwoCircles(benchmark::State& state) {
+    Stand stand;
+    stand.PlaceCircle(-1);
+    stand.PlaceCircle(1);
+    stand.PlaceLines(10);
+    stand.Board->Toolbar1.PressByPerson("Connect");
+    geometry::ConnectPanel& panel = stand.Board->Frame4;
+    for (auto _ : state) {
+        state.PauseTiming();
+        panel.Option1.Value(true);
+        panel.Text12.Text("1");
+        panel.Option4.Value(true);
+        panel.Text15.Text("2");
+        state.ResumeTiming();
+        stand.Board->Command1.Value(true);
+        state.PauseTiming();
+        if (stand.Board->Work.Live().Count() != 16) {
+            state.SkipWithError("the circles were not connected");
+            break;
+        }
+        stand.Board->Command3.Value(true);
+        state.ResumeTiming();
+    }
+}
+BENCHMARK(ConnectTwoCircles)->Unit(benchmark::kMicrosecond);
 
 }  // namespace
