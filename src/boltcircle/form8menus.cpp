@@ -1,6 +1,7 @@
 // Bolt Circles: menus, documents, paper.
 #include "boltcircle/form8.h"
 
+#include "boltcircle/document.h"
 #include "frame/navigation.h"
 #include "frame/program.h"
 #include "frame/text.h"
@@ -8,7 +9,6 @@
 #include "services/documents.h"
 #include "services/printing.h"
 
-#include <optional>
 #include <string_view>
 
 namespace brindlex::boltcircle {
@@ -16,21 +16,12 @@ namespace brindlex::boltcircle {
 namespace {
 
 // A disk that refuses a save ends it without a word: intended.
-constexpr DocumentKind Document{.Filter = "Bolt Circle Files(*.bcf)|*.bcf", .MostLines = 6, .FailedSaveIsTold = false};
+constexpr DocumentKind Document{
+    .Filter = "Bolt Circle Files(*.bcf)|*.bcf", .MostLines = DocumentLines, .FailedSaveIsTold = false};
 constexpr std::string_view EntryNames[] = {"Text1", "Text2", "Text3", "Text4", "Text5"};
 constexpr std::string_view PastedNames[] = {"Text1", "Text2", "Text3", "Text4", "Text5", "Text6"};
 constexpr std::string_view AllDecimals = ".000000000000000";
 constexpr double MillimetersPerInch = 25.4;
-
-// The check box as it stands in a document; nothing for what is neither 0 nor 1.
-std::optional<int> StoredCheck(std::string_view text) {
-    if (text.find_first_of("0123456789") == std::string_view::npos) {
-        return std::nullopt;
-    }
-    int value = -1;
-    Guarded([&] { value = CInt(Val(text)); });
-    return value == 0 || value == 1 ? std::optional(value) : std::nullopt;
-}
 
 void PrintLines(PrinterObject& printer, int count) {
     for (int line = 0; line < count; ++line) {

@@ -51,8 +51,8 @@ void AddCoordinatesHead(std::string& report, const Pattern& pattern, std::string
     AddLine(report, {"Diameter Of Circle:", Str(pattern.Diameter)});
     AddCenter(report, pattern);
     AddLine(report, {"Start Angle: ", startAngle, Degree});
-    const double x = pattern.StartAngle == 0 ? pattern.Radius + pattern.HoleX : pattern.HoleX;
-    AddLine(report, {"Hole 1: X= ", Str(x), " , Y= ", Str(pattern.HoleY)});
+    const Hole first = FirstHole(pattern);
+    AddLine(report, {"Hole 1: X= ", Str(first.X), " , Y= ", Str(first.Y)});
 }
 
 void AddAnglesHead(std::string& report, const Pattern& pattern, std::string_view mask) {
@@ -83,6 +83,15 @@ std::string ToDegrees(double angle, std::string_view mask) {
     return text;
 }
 
+Hole FirstHole(const Pattern& pattern) {
+    const double x = pattern.StartAngle == 0 ? pattern.Radius + pattern.HoleX : pattern.HoleX;
+    return {pattern.StartAngle, x, pattern.HoleY};
+}
+
+double ShownAngle(double angle) {
+    return angle >= FullTurn ? angle - FullTurn : angle;
+}
+
 std::string ReportText(const Pattern& pattern, std::string_view startAngle, std::string_view mask) {
     std::string report;
     report.reserve((pattern.Further.size() + 8) * UsualLine);
@@ -95,9 +104,7 @@ std::string ReportText(const Pattern& pattern, std::string_view startAngle, std:
     for (const Hole& hole : pattern.Further) {
         ++number;
         if (pattern.AnglesOnly) {
-            // One turn is taken off, and no more: intended.
-            const double angle = hole.Angle >= FullTurn ? hole.Angle - FullTurn : hole.Angle;
-            AddLine(report, {"Hole", Str(number), "= ", ToDegrees(angle, mask)});
+            AddLine(report, {"Hole", Str(number), "= ", ToDegrees(ShownAngle(hole.Angle), mask)});
         } else {
             AddLine(report, {"Hole", Str(number), ": ", "X= ", Str(hole.X), " , ", "Y= ", Str(hole.Y)});
         }

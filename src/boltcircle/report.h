@@ -14,6 +14,13 @@ namespace brindlex::boltcircle {
 /// intended. Throws Overflow where the degrees pass 16 bits.
 [[nodiscard]] std::string ToDegrees(double angle, std::string_view mask);
 
+/// Where hole 1 lies, as the report of coordinates tells it: with a start angle of 0 the radius beside the centre, not
+/// rounded: intended.
+[[nodiscard]] Hole FirstHole(const Pattern& pattern);
+
+/// An angle with one turn taken off, and no more: intended.
+[[nodiscard]] double ShownAngle(double angle);
+
 /// The report, each line ended by carriage return and line feed. `startAngle` is the entry's text. Throws Overflow
 /// where an angle passes 16 bits.
 [[nodiscard]] std::string ReportText(const Pattern& pattern, std::string_view startAngle, std::string_view mask);

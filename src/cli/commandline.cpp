@@ -176,7 +176,7 @@ Outcome RunWords(std::span<const Command> commands, const std::vector<std::strin
     try {
         return {0, RunFirst(commands, words, input), ""};
     } catch (const Failure& failure) {
-        return {static_cast<int>(failure.Code()), "", OneLine(name, failure.what())};
+        return {static_cast<int>(failure.Code()), failure.Findings(), OneLine(name, failure.what())};
     } catch (const std::bad_alloc&) {
         return {static_cast<int>(Exit::Disk), "", OneLine(name, "there is not enough memory")};
     }

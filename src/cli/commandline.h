@@ -15,7 +15,7 @@ namespace brindlex::cli {
 [[nodiscard]] std::string HelpOf(const Command& command);
 [[nodiscard]] std::string HelpOf(std::span<const Command> commands);
 
-/// How a run ended. With a code other than Done nothing goes to the standard output.
+/// How a run ended. With a code other than Done nothing but the findings of a check goes to the standard output.
 struct Outcome {
     int Code = 0;
     std::string Out;  ///< for the standard output

@@ -1,14 +1,20 @@
 // The table of commands.
 #include "cli/commands.h"
 
+#include "cli/bolt.h"
+#include "cli/data.h"
 #include "cli/documents.h"
+#include "cli/plates.h"
+#include "cli/speeds.h"
+#include "cli/triangles.h"
 
 #include <array>
 
 namespace brindlex::cli {
 
 std::span<const Command> Commands() {
-    static constexpr std::array Table{ReportCommand};
+    static constexpr std::array Table{RightCommand,  ObliqueCommand, BoltCommand,   SineCommand, PolygonCommand,
+                                      SpeedsCommand, SolveCommand,   ReportCommand, DataCommand};
     return Table;
 }
 

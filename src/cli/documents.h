@@ -1,9 +1,29 @@
-// Commands on the files of the desktop program.
+// Commands on the documents and drawings of the desktop program.
 #pragma once
 
+#include "cli/calculation.h"
 #include "cli/command.h"
 
 namespace brindlex::cli {
+
+[[nodiscard]] std::string RunSolve(const Arguments& given, const StandardInput& input);
+
+inline constexpr OptionRow SolveOptions[] = {UnitOption, PlacesOption,
+                                             DmsOption,  JsonOption,
+                                             CsvOption,  {"--check", "", "tells of each file whether it solves"}};
+
+inline constexpr Command SolveCommand{
+    "solve",
+    "The results of documents: .rgt .obl .bcf .sin .pgf",
+    "\nThe ending tells the kind of a document. --unit is the unit that its lengths are in, as a document names none;\n"
+    "of a sine plate it is the unit of the buildup. CSV is a line for each value of each file.\n"
+    "With --check every file is looked at; without it the first that has no result ends the command.\n"
+    "\nExamples:\n"
+    "  brindlex-cli solve hub.bcf taper.rgt\n"
+    "  brindlex-cli solve --check jobs/*\n",
+    SolveOptions,
+    {"FILE...", 1, std::size_t(-1)},
+    RunSolve};
 
 [[nodiscard]] std::string RunReport(const Arguments& given, const StandardInput& input);
 

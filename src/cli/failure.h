@@ -3,6 +3,7 @@
 
 #include <stdexcept>
 #include <string>
+#include <utility>
 
 namespace brindlex::cli {
 
@@ -17,12 +18,16 @@ enum class Exit : int {
 /// Ends a run: one line that says what and where. Nothing has been printed or written then.
 class Failure : public std::runtime_error {
 public:
-    Failure(Exit code, const std::string& what) : std::runtime_error(what), code_(code) {}
+    /// `findings` is for the standard output all the same: what a check has found.
+    Failure(Exit code, const std::string& what, std::string findings = {})
+        : std::runtime_error(what), code_(code), findings_(std::move(findings)) {}
 
     [[nodiscard]] Exit Code() const noexcept { return code_; }
+    [[nodiscard]] const std::string& Findings() const noexcept { return findings_; }
 
 private:
     Exit code_;
+    std::string findings_;
 };
 
 }  // namespace brindlex::cli

@@ -228,6 +228,16 @@ std::vector<std::string> InputFile::AllLines() {
     return lines;
 }
 
+std::string InputFile::AllBytes() {
+    std::string bytes;
+    try {
+        bytes.assign(std::istreambuf_iterator<char>(stream_), {});
+    } catch (const std::ios_base::failure& failure) {
+        throw SystemFault(failure.code());
+    }
+    return bytes;
+}
+
 void OutputFile::Print(std::string_view text) {
     errno = 0;
     stream_.write(text.data(), static_cast<std::streamsize>(text.size()));

@@ -49,6 +49,8 @@ public:
     [[nodiscard]] bool Eof();
     /// The lines that are left.
     [[nodiscard]] std::vector<std::string> AllLines();
+    /// The bytes that are left, line ends among them.
+    [[nodiscard]] std::string AllBytes();
 
 private:
     std::ifstream stream_;

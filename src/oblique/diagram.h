@@ -4,6 +4,7 @@
 #pragma once
 
 #include "frame/picturebox.h"
+#include "oblique/answer.h"
 #include "oblique/solver.h"
 
 #include <array>
@@ -14,7 +15,6 @@
 
 namespace brindlex::oblique {
 
-using ElementTexts = std::array<std::string, ElementCount>;
 /// Which elements were entered; they stand in bold red.
 using KnownElements = std::array<bool, ElementCount>;
 

@@ -132,7 +132,6 @@ private:
     void ShowArea();
     void ForgetArea();
     void AllowBothUnits();
-    [[nodiscard]] double Rounded(double number);
     [[nodiscard]] KnownElements Known() const;
     [[nodiscard]] TextBox& OverlayBox(Element element);
 

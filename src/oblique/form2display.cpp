@@ -2,8 +2,6 @@
 #include "frame/program.h"
 #include "frame/text.h"
 #include "oblique/form2.h"
-#include "services/degrees.h"
-#include "services/rounding.h"
 
 namespace brindlex::oblique {
 
@@ -13,8 +11,6 @@ constexpr double AreaLeft = 5160;
 /// A long area moves left so far that it ends here.
 constexpr double AreaRightmost = 6804;
 constexpr double LongAreaLeft = 5130;
-
-constexpr std::array RoundingOrder = {Element::a, Element::b, Element::c, Element::A, Element::B, Element::C};
 
 }  // namespace
 
@@ -74,45 +70,18 @@ void Form2::TransferText() {
     }
 }
 
-double Form2::Rounded(double number) {
-    return RoundedForDisplay(number, Owner().Shared(), Owner().Shared().DigitsO);
-}
-
 void Form2::NotDegreesO() {
-    Triangle rounded = triangle_;
-    for (const Element element : RoundingOrder) {
-        rounded.Working(element) = Rounded(triangle_.Kept(element));
-    }
-    triangle_ = rounded;
-    ElementTexts texts;
-    for (const Element element : AllElements) {
-        texts[Index(element)] = Str(triangle_.Working(element));
-        if (IsAngle(element)) {
-            texts[Index(element)] += DegreeSign;
-        }
-    }
-    ShowValues(texts);
+    const Answer answer = InDegrees(triangle_, Owner().Shared());
+    triangle_ = answer.Shown;
+    ShowValues(answer.Texts);
 }
 
 void Form2::DegreesO() {
-    Triangle rounded = triangle_;
-    ElementTexts texts;
-    std::array<double, 3> seconds{};
-    for (const Element element : AllElements) {
-        if (IsAngle(element)) {
-            // The working angles stay unrounded here: intended.
-            const DegreeParts parts = SplitDegrees(triangle_.Kept(element), [this](double s) { return Rounded(s); });
-            seconds[Index(element)] = parts.Seconds;
-            texts[Index(element)] = DegreeText(parts);
-        } else {
-            rounded.Working(element) = Rounded(triangle_.Kept(element));
-            texts[Index(element)] = Str(rounded.Working(element));
-        }
-    }
-    triangle_ = rounded;
-    Owner().Shared().Sec1 = seconds[0];
-    Owner().Shared().Sec2 = seconds[1];
-    ShowValues(texts);
+    const Answer answer = InMinutes(triangle_, Owner().Shared());
+    triangle_ = answer.Shown;
+    Owner().Shared().Sec1 = answer.Seconds[0];
+    Owner().Shared().Sec2 = answer.Seconds[1];
+    ShowValues(answer.Texts);
 }
 
 void Form2::ShowValues(const ElementTexts& texts) {

@@ -5,6 +5,7 @@
 #include "services/activebox.h"
 #include "services/documents.h"
 #include "services/printing.h"
+#include "services/rounding.h"
 
 #include <algorithm>
 #include <optional>
@@ -14,17 +15,9 @@ namespace brindlex::oblique {
 
 namespace {
 
-bool BeginsWithACase(const std::vector<std::string>& lines) {
-    return lines.empty() || EntriesOf(lines.front());
-}
-
 // A disk that refuses a save ends it without a word: intended.
-constexpr DocumentKind Document{"Oblique Triangle Files(*.obl)|*.obl",
-                                4,
-                                BeginsWithACase,
-                                "This Is Not An Oblique Triangle File!",
-                                style::Exclamation,
-                                false};
+constexpr DocumentKind Document{"Oblique Triangle Files(*.obl)|*.obl",   DocumentLines,      IsDocument,
+                                "This Is Not An Oblique Triangle File!", style::Exclamation, false};
 
 constexpr double MillimetersPerInch = 25.4;
 constexpr std::string_view MillimetersMask = ".000000000000000";
@@ -157,7 +150,8 @@ void Form2::Millimeters2Inches_Click() {
     if (EntriesFilled()) {
         // Rounded on this way only: intended.
         if (!ConvertEntries([this](double value) {
-                const std::string text = Str(Rounded(value / MillimetersPerInch));
+                SharedState& shared = Owner().Shared();
+                const std::string text = Str(RoundedForDisplay(value / MillimetersPerInch, shared, shared.DigitsO));
                 return text.substr(text.front() == ' ' ? 1 : 0);
             })) {
             return;

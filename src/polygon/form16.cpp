@@ -6,15 +6,14 @@
 #include "frame/program.h"
 #include "frame/text.h"
 #include "polygon/diagram.h"
+#include "polygon/document.h"
 #include "services/activebox.h"
 #include "services/documents.h"
 #include "services/filters.h"
 #include "services/printing.h"
+#include "services/words.h"
 
-#include <algorithm>
 #include <array>
-#include <iterator>
-#include <limits>
 #include <string_view>
 
 namespace brindlex::polygon {
@@ -27,18 +26,11 @@ constexpr std::array<std::string_view, 2> Boxes = {"Text1", "Text2"};
 constexpr const char* Title = "Solutions To Polygons";
 constexpr const char* Incomplete = "The Form Has Not Been Completed!";
 
-/// A document of another kind begins with no number and goes on with no Boolean. An empty one is of any kind.
-bool IsPolygonDocument(const std::vector<std::string>& lines) {
-    double sides = 1;
-    Guarded([&] { sides = lines.empty() ? 1 : Val(lines.front()); });
-    return sides != 0 || (lines.size() > 1 && (lines[1] == BooleanWord(true) || lines[1] == BooleanWord(false)));
-}
-
-constexpr DocumentKind Document{.Filter = "Polygon Files(*.pgf)|*.pgf",
-                                .MostLines = 7,
-                                .Belongs = IsPolygonDocument,
-                                .Refusal = "This Is Not A Polygon File!",
-                                .RefusalStyle = style::Plain};
+constexpr DocumentKind PolygonFile{.Filter = "Polygon Files(*.pgf)|*.pgf",
+                                   .MostLines = DocumentLines,
+                                   .Belongs = IsDocument,
+                                   .Refusal = "This Is Not A Polygon File!",
+                                   .RefusalStyle = style::Plain};
 
 }  // namespace
 
@@ -103,13 +95,11 @@ void Form16::Form_Unload() {
 }
 
 double Form16::SidesTyped() const {
-    double sides = std::numeric_limits<double>::max();
-    Guarded([&] { sides = Val(Combo1.Text()); });
-    return sides;
+    return polygon::SidesTyped(Combo1.Text());
 }
 
 int Form16::Sides() const {
-    return CInt(std::clamp(SidesTyped(), 0.0, MostSides + 1.0));
+    return SidesOf(Combo1.Text());
 }
 
 PolygonCase Form16::Given() const {
@@ -247,24 +237,24 @@ void Form16::MM2Inch_Click() {
 }
 
 void Form16::OpenFile_Click() {
-    if (const auto lines = OpenDocument(CommonDialog1, Document)) {
+    if (const auto lines = OpenDocument(CommonDialog1, PolygonFile)) {
         TakeDocument(*lines);
         Command1.Value(true);
     }
 }
 
 void Form16::TakeDocument(const std::vector<std::string>& lines) {
-    if (lines.empty()) {
+    const auto document = ReadDocument(lines);
+    if (!document) {
         return;
     }
     // The old dimension goes first, so that no option calculates with it.
     Text1.Text("");
-    Combo1.Text(lines.front());
-    // Across one flat stands before flat to corner in the file: intended.
-    OptionButton* const options[] = {&Option4, &Option5, &Option1, &Option3, &Option2};
-    for (std::size_t at = 1; at < lines.size() && at <= std::size(options); ++at) {
-        if (const auto value = BooleanFromWord(lines[at])) {
-            options[at - 1]->Value(*value);
+    Combo1.Text(document->Sides);
+    OptionButton* const options[ChoiceCount] = {&Option4, &Option5, &Option1, &Option3, &Option2};
+    for (std::size_t at = 0; at < ChoiceCount; ++at) {
+        if (const auto value = document->Choices[at]) {
+            options[at]->Value(*value);
         }
     }
     if (!Option4.Value() && !Option5.Value()) {
@@ -272,8 +262,8 @@ void Form16::TakeDocument(const std::vector<std::string>& lines) {
     }
     // Options that do not go with the number of sides are put right.
     DrawPolygon();
-    if (lines.size() == Document.MostLines) {
-        Text1.Text(lines.back());
+    if (document->Dimension) {
+        Text1.Text(*document->Dimension);
     }
 }
 
@@ -283,7 +273,7 @@ void Form16::SaveFileAs_Click() {
         return;
     }
     SaveDocument(
-        CommonDialog1, Document,
+        CommonDialog1, PolygonFile,
         {Combo1.Text(), BooleanWord(Option4.Value()), BooleanWord(Option5.Value()), BooleanWord(Option1.Value()),
          BooleanWord(Option3.Value()), BooleanWord(Option2.Value()), Text1.Text()});
 }

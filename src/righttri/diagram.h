@@ -5,28 +5,18 @@
 
 #include "frame/picturebox.h"
 #include "frame/place.h"
+#include "righttri/answer.h"
 
 #include <array>
-#include <cstddef>
 #include <optional>
-#include <string>
 #include <string_view>
 
 namespace brindlex::righttri {
-
-/// What can be named in a triangle, in the order in which results are shown.
-enum class Part { CornerA, AngleB, AngleC, SideA, SideB, SideC };
-inline constexpr std::size_t PartCount = 6;
-[[nodiscard]] constexpr std::size_t IndexOf(Part part) {
-    return static_cast<std::size_t>(part);
-}
 
 /// A known value is bold and red, any other plain and black.
 using KnownParts = std::array<bool, PartCount>;
 /// The parts that the two entry labels name, and corner A, which is known always.
 [[nodiscard]] KnownParts KnownFrom(std::string_view inputLabel1, std::string_view inputLabel2);
-
-using PartTexts = std::array<std::string, PartCount>;
 
 /// The fixed sketch.
 void DrawTriangle(PictureBox& picture, Colour colour = Blue);

@@ -259,7 +259,7 @@ void Form1::NoteSolved(const Triangle& found) {
 
 void Form1::ShowArea() {
     // From the rounded legs; a later change of the rounding does not form it anew: intended.
-    const double area = (Checked(Shared().SideB) * Shared().SideC * 0.5).Value();
+    const double area = AreaOf(Shared().SideB, Shared().SideC);
     Label2.Left(AreaLeft);
     Label2.Caption("Area= " + Format(area, ".00000"));
     const double right = Round(Label2.Left() + Label2.Width());

@@ -12,6 +12,7 @@
 #include "frame/picturebox.h"
 #include "frame/shared.h"
 #include "frame/textbox.h"
+#include "righttri/answer.h"
 #include "righttri/diagram.h"
 #include "righttri/solver.h"
 #include "services/minutesdialog.h"
@@ -92,12 +93,6 @@ protected:
     void Form_Unload() override;
 
 private:
-    /// A triangle ready to be shown.
-    struct Answer {
-        Triangle Rounded;
-        PartTexts Texts;
-    };
-
     void BindEntries();
     void BindMenus();
 
@@ -133,9 +128,7 @@ private:
     void NotDegrees();
     void Degrees();
     void Redisplay();
-    void RoundR();
-    [[nodiscard]] double Rounded(double number);
-    [[nodiscard]] PartTexts TextsOf(const Triangle& rounded, std::string angleB, std::string angleC) const;
+    [[nodiscard]] Triangle Kept() const;
     void ShowAnswer(const Answer& answer, const std::string& cornerA);
 
     // Menus.

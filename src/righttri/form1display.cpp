@@ -3,10 +3,6 @@
 
 #include "frame/program.h"
 #include "frame/text.h"
-#include "services/degrees.h"
-#include "services/rounding.h"
-
-#include <utility>
 
 namespace brindlex::righttri {
 
@@ -68,29 +64,16 @@ void Form1::ShowInBox(Part part, const std::string& text, bool known) {
     box.ForeColor(known ? Red : Black);
 }
 
-/// Rounds NumIn into NumOut.
-void Form1::RoundR() {
-    RoundThroughSlots(Shared(), Shared().DigitsR);
-    Shared().NumIn.clear();
-}
-
-double Form1::Rounded(double number) {
-    Shared().NumIn = Str(number);
-    RoundR();
-    return Val(Shared().NumOut);
-}
-
-PartTexts Form1::TextsOf(const Triangle& rounded, std::string angleB, std::string angleC) const {
-    return {"", std::move(angleB), std::move(angleC), Str(rounded.SideA), Str(rounded.SideB), Str(rounded.SideC)};
+/// The triangle as computed.
+Triangle Form1::Kept() const {
+    const SharedState& shared = Shared();
+    return {shared.KeepA, shared.KeepB, shared.KeepC, shared.KeepAngleB, shared.KeepAngleC};
 }
 
 /// Shows the angles as decimal degrees. A fault comes out before anything has changed on the picture.
 void Form1::NotDegrees() {
     SharedState& shared = Shared();
-    Answer answer;
-    answer.Rounded = {Rounded(shared.KeepA), Rounded(shared.KeepB), Rounded(shared.KeepC), Rounded(shared.KeepAngleB),
-                      Rounded(shared.KeepAngleC)};
-    answer.Texts = TextsOf(answer.Rounded, Str(answer.Rounded.AngleB) + Degree, Str(answer.Rounded.AngleC) + Degree);
+    const Answer answer = InDegrees(Kept(), shared);
     ShowAnswer(answer, "90" + Degree);
     shared.AngleB = answer.Rounded.AngleB;
     shared.AngleC = answer.Rounded.AngleC;
@@ -99,15 +82,10 @@ void Form1::NotDegrees() {
 /// Shows the angles in degrees, minutes and seconds; AngleB and AngleC stay as they are. A fault likewise.
 void Form1::Degrees() {
     SharedState& shared = Shared();
-    const auto round = [this](double seconds) { return Rounded(seconds); };
-    const DegreeParts angleB = SplitDegrees(shared.KeepAngleB, round);
-    const DegreeParts angleC = SplitDegrees(shared.KeepAngleC, round);
-    Answer answer;
-    answer.Rounded = {Rounded(shared.KeepA), Rounded(shared.KeepB), Rounded(shared.KeepC), 0, 0};
-    answer.Texts = TextsOf(answer.Rounded, DegreeText(angleB), DegreeText(angleC));
+    const Answer answer = InMinutes(Kept(), shared);
     ShowAnswer(answer, "90");
-    shared.Sec1 = angleB.Seconds;
-    shared.Sec2 = angleC.Seconds;
+    shared.Sec1 = answer.SecondsB;
+    shared.Sec2 = answer.SecondsC;
     shared.DmsTextB = answer.Texts[IndexOf(Part::AngleB)];
     shared.DmsTextC = answer.Texts[IndexOf(Part::AngleC)];
 }

@@ -20,17 +20,9 @@ namespace {
 constexpr const char* SettingsFile = "brindr.ini";
 constexpr std::array<std::string_view, 4> SettingsKeys = {"DMS=", "Shape=", "Text=", "Rounding="};
 
-bool BeginsWithACase(const std::vector<std::string>& lines) {
-    return lines.empty() || FindCase(lines.front());
-}
-
 // A disk that refuses a save ends it without a word: intended.
-constexpr DocumentKind Document{"Right Triangle Files(*.rgt)|*.rgt",
-                                3,
-                                BeginsWithACase,
-                                "This Is Not A Right Triangle File!",
-                                style::Exclamation,
-                                false};
+constexpr DocumentKind Document{"Right Triangle Files(*.rgt)|*.rgt",  DocumentLines,      IsDocument,
+                                "This Is Not A Right Triangle File!", style::Exclamation, false};
 
 constexpr std::array<std::string_view, 8> BoxesToCopy = {"Text1", "Text2", "Text3", "Text4",
                                                          "Text5", "Text6", "Text7", "Text8"};

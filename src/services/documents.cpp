@@ -4,11 +4,10 @@
 #include "frame/fault.h"
 #include "frame/form.h"
 #include "frame/program.h"
-#include "frame/text.h"
 #include "services/settings.h"
+#include "services/words.h"
 
 #include <algorithm>
-#include <cctype>
 #include <iterator>
 
 namespace brindlex {
@@ -64,30 +63,6 @@ void SaveDocument(CommonDialog& dialog, const DocumentKind& kind, const std::vec
             program.BeepBox("The File Could Not Be Saved:\r\n" + refused + "\r\n" + fault.what());
         }
     }
-}
-
-std::string FirstLine(std::string_view text) {
-    return std::string(text.substr(0, text.find_first_of("\r\n")));
-}
-
-std::string BooleanWord(bool value) {
-    return value ? "True" : "False";
-}
-
-std::optional<bool> BooleanFromWord(const std::string& word) {
-    std::string lower(word);
-    std::transform(lower.begin(), lower.end(), lower.begin(),
-                   [](unsigned char c) { return static_cast<char>(std::tolower(c)); });
-    if (lower == "true") {
-        return true;
-    }
-    if (lower == "false") {
-        return false;
-    }
-    if (lower.empty() || lower.find_first_not_of(" +-.0123456789") != std::string::npos) {
-        return std::nullopt;
-    }
-    return Val(lower) != 0;
 }
 
 }  // namespace brindlex

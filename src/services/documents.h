@@ -7,7 +7,6 @@
 #include <cstddef>
 #include <optional>
 #include <string>
-#include <string_view>
 #include <vector>
 
 namespace brindlex {
@@ -31,13 +30,5 @@ struct DocumentKind {
 /// Asks for a file and writes the lines, of each what stands before a line end. Cancel ends quietly; a failed save
 /// leaves the old file whole.
 void SaveDocument(CommonDialog& dialog, const DocumentKind& kind, const std::vector<std::string>& lines);
-
-/// What stands before the first line end: a pasted entry may hold one, which in a file would part it.
-[[nodiscard]] std::string FirstLine(std::string_view text);
-
-/// The words of a Boolean in a document.
-[[nodiscard]] std::string BooleanWord(bool value);
-/// "True" and "False" in any case, or a number, which is true when it isn't 0; nothing for any other word.
-[[nodiscard]] std::optional<bool> BooleanFromWord(const std::string& word);
 
 }  // namespace brindlex

@@ -3,14 +3,15 @@
 
 #include "frame/fault.h"
 
+#include <utility>
+
 namespace brindlex {
 
 namespace {
 
 // Up to `most` lines, or up to the first empty one or the end.
-std::vector<std::string> ReadLines(const Folder& folder, std::string_view name, std::size_t most) {
+std::vector<std::string> ReadLines(InputFile file, std::size_t most) {
     std::vector<std::string> lines;
-    InputFile file = folder.OpenInput(name);
     while (lines.size() < most && !file.Eof()) {
         std::string line = file.LineInput();
         if (line.empty()) {
@@ -27,7 +28,7 @@ std::vector<std::string> ReadSettings(const Folder& folder, std::string_view nam
                                       std::span<const std::string_view> keys) {
     Guarded([&] { folder.Touch(name); });
     std::vector<std::string> lines;
-    Guarded([&] { lines = ReadLines(folder, name, keys.size()); });
+    Guarded([&] { lines = ReadLines(folder.OpenInput(name), keys.size()); });
     lines.resize(keys.size());
     for (std::size_t i = 0; i < keys.size(); ++i) {
         lines[i].erase(0, keys[i].size());
@@ -44,7 +45,11 @@ void WriteSettings(const Folder& folder, std::string_view name, const std::vecto
 }
 
 std::vector<std::string> ReadDocument(const Folder& folder, std::string_view name, std::size_t most) {
-    return ReadLines(folder, name, most);
+    return ReadLines(folder.OpenInput(name), most);
+}
+
+std::vector<std::string> ReadDocument(InputFile file, std::size_t most) {
+    return ReadLines(std::move(file), most);
 }
 
 void WriteDocument(const Folder& folder, std::string_view name, const std::vector<std::string>& lines) {

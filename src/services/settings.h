@@ -28,6 +28,9 @@ void WriteSettings(const Folder& folder, std::string_view name, const std::vecto
 /// Throws Fault where the file can't be read.
 [[nodiscard]] std::vector<std::string> ReadDocument(const Folder& folder, std::string_view name, std::size_t most);
 
+/// The same of a file that is open already.
+[[nodiscard]] std::vector<std::string> ReadDocument(InputFile file, std::size_t most);
+
 /// Writes a document in one step. A failed save leaves the old file whole and throws Fault.
 void WriteDocument(const Folder& folder, std::string_view name, const std::vector<std::string>& lines);
 

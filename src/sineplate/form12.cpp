@@ -12,6 +12,8 @@
 #include "services/filters.h"
 #include "services/printing.h"
 #include "services/rounding.h"
+#include "services/words.h"
+#include "sineplate/document.h"
 
 #include <array>
 #include <initializer_list>
@@ -30,16 +32,9 @@ constexpr const char* Incomplete = "You Haven't Completed The Form";
 constexpr const char* TooLarge = "Angle Must Be 90 Degrees Or Less";
 constexpr const char* NotValid = "These Values Are Not Valid For Calculating";
 
-/// A document of another kind begins with no number and goes on with no Boolean. An empty one is of any kind.
-bool IsSineDocument(const std::vector<std::string>& lines) {
-    double spacing = 1;
-    Guarded([&] { spacing = lines.empty() ? 1 : Val(lines.front()); });
-    return spacing != 0 || (lines.size() > 1 && (lines[1] == BooleanWord(true) || lines[1] == BooleanWord(false)));
-}
-
-constexpr DocumentKind Document{.Filter = "Sine Files(*.sin)|*.sin",
-                                .MostLines = 5,
-                                .Belongs = IsSineDocument,
+constexpr DocumentKind SineFile{.Filter = "Sine Files(*.sin)|*.sin",
+                                .MostLines = DocumentLines,
+                                .Belongs = IsDocument,
                                 .Refusal = "This Is Not A Sine File!",
                                 .RefusalStyle = style::Plain};
 
@@ -263,32 +258,29 @@ void Form12::RoundNumbers_Click() {
 }
 
 void Form12::OPenFile_Click() {
-    if (const auto lines = OpenDocument(CommonDialog1, Document)) {
+    if (const auto lines = OpenDocument(CommonDialog1, SineFile)) {
         TakeDocument(*lines);
         Command1.Value(true);
     }
 }
 
 void Form12::TakeDocument(const std::vector<std::string>& lines) {
-    if (lines.empty()) {
+    const auto document = ReadDocument(lines);
+    if (!document) {
         return;
     }
-    Combo1.Text(lines.front());
+    Combo1.Text(document->Spacing);
     OptionButton* const options[] = {&Option1, &Option2};
-    for (std::size_t at = 1; at < lines.size() && at <= std::size(options); ++at) {
-        if (const auto value = BooleanFromWord(lines[at])) {
-            options[at - 1]->Value(*value);
+    for (std::size_t at = 0; at < std::size(options); ++at) {
+        if (const auto value = document->Types[at]) {
+            options[at]->Value(*value);
         }
     }
     if (!Option1.Value() && !Option2.Value()) {
         Option1.Value(true);
     }
-    // Where a document was cut off, the old entries go, so that they do not mix with it.
-    std::size_t at = 1 + std::size(options);
-    for (TextBox* const box : {&Text1, &Text2}) {
-        box->Text(at < lines.size() ? lines[at] : "");
-        ++at;
-    }
+    Text1.Text(document->Angles[0]);
+    Text2.Text(document->Angles[1]);
 }
 
 void Form12::SaveFileAs_Click() {
@@ -298,7 +290,7 @@ void Form12::SaveFileAs_Click() {
         return;
     }
     SaveDocument(
-        CommonDialog1, Document,
+        CommonDialog1, SineFile,
         {Combo1.Text(), BooleanWord(Option1.Value()), BooleanWord(Option2.Value()), Text1.Text(), Text2.Text()});
 }
 

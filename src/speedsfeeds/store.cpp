@@ -6,29 +6,11 @@
 #include "speedsfeeds/record.h"
 
 #include <string_view>
-#include <unordered_set>
 #include <utility>
 
 namespace brindlex::speedsfeeds {
 
 namespace {
-
-/// Names, each once, besides those that are listed already. An empty name, as a line without marks has, is none.
-class DistinctNames {
-public:
-    explicit DistinctNames(const std::vector<std::string>& listed) : seen_(listed.begin(), listed.end()) {}
-
-    void Add(std::string_view name) {
-        if (!name.empty() && seen_.emplace(name).second) {
-            fresh_.emplace_back(name);
-        }
-    }
-    [[nodiscard]] std::vector<std::string> Take() { return std::move(fresh_); }
-
-private:
-    std::unordered_set<std::string> seen_;
-    std::vector<std::string> fresh_;
-};
 
 /// A factor that is no number, or too large for one, counts as none.
 bool IsFactor(std::string_view text) {
@@ -37,7 +19,7 @@ bool IsFactor(std::string_view text) {
     return value != 0;
 }
 
-void Take(CuttingData& data, std::string_view line) {
+void TakeData(CuttingData& data, std::string_view line) {
     data.SpeedRange = SpeedRangeOf(line);
     data.FeedRange = FeedRangeOf(line);
     // A record without a factor leaves that of an earlier one: intended.
@@ -47,6 +29,38 @@ void Take(CuttingData& data, std::string_view line) {
 }
 
 }  // namespace
+
+void DistinctNames::Add(std::string_view name) {
+    if (!name.empty() && seen_.emplace(name).second) {
+        fresh_.emplace_back(name);
+    }
+}
+
+Walk::Walk(Path path)
+    : path_(std::move(path)), toolMaterials_({path_.ToolMaterial}), workMaterials_({path_.WorkMaterial}) {
+}
+
+void Walk::Take(std::string_view line) {
+    if (path_.Tool.empty() || ToolOf(line) != path_.Tool) {
+        return;
+    }
+    toolMaterials_.Add(ToolMaterialOf(line));
+    if (path_.ToolMaterial.empty() || ToolMaterialOf(line) != path_.ToolMaterial) {
+        return;
+    }
+    workMaterials_.Add(WorkMaterialOf(line));
+    if (path_.WorkMaterial.empty() || WorkMaterialOf(line) != path_.WorkMaterial) {
+        return;
+    }
+    if (!data_) {
+        data_.emplace();
+    }
+    TakeData(*data_, line);
+}
+
+Choices Walk::Found() {
+    return {toolMaterials_.Take(), workMaterials_.Take(), std::move(data_)};
+}
 
 Store::Store(Folder folder, const std::string& machine)
     : folder_(std::move(folder)), file_(machine + ".dat"), scratch_(machine + ".tmp") {
@@ -100,27 +114,9 @@ std::vector<std::string> Store::Tools(Unit unit, const std::vector<std::string>&
 }
 
 Choices Store::WalkDown(const Path& path) const {
-    DistinctNames toolMaterials({path.ToolMaterial});
-    DistinctNames workMaterials({path.WorkMaterial});
-    std::optional<CuttingData> data;
-    ForEachLine([&](const std::string& line) {
-        if (path.Tool.empty() || ToolOf(line) != path.Tool) {
-            return;
-        }
-        toolMaterials.Add(ToolMaterialOf(line));
-        if (path.ToolMaterial.empty() || ToolMaterialOf(line) != path.ToolMaterial) {
-            return;
-        }
-        workMaterials.Add(WorkMaterialOf(line));
-        if (path.WorkMaterial.empty() || WorkMaterialOf(line) != path.WorkMaterial) {
-            return;
-        }
-        if (!data) {
-            data.emplace();
-        }
-        Take(*data, line);
-    });
-    return {toolMaterials.Take(), workMaterials.Take(), std::move(data)};
+    Walk walk(path);
+    ForEachLine([&](const std::string& line) { walk.Take(line); });
+    return walk.Found();
 }
 
 }  // namespace brindlex::speedsfeeds

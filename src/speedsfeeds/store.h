@@ -8,9 +8,25 @@
 
 #include <optional>
 #include <string>
+#include <string_view>
+#include <unordered_set>
+#include <utility>
 #include <vector>
 
 namespace brindlex::speedsfeeds {
+
+/// Names, each once, besides those that are listed already. An empty name, as a line without marks has, is none.
+class DistinctNames {
+public:
+    explicit DistinctNames(const std::vector<std::string>& listed) : seen_(listed.begin(), listed.end()) {}
+
+    void Add(std::string_view name);
+    [[nodiscard]] std::vector<std::string> Take() { return std::move(fresh_); }
+
+private:
+    std::unordered_set<std::string> seen_;
+    std::vector<std::string> fresh_;
+};
 
 /// What was chosen so far; an empty name is not chosen yet.
 struct Path {
@@ -33,6 +49,23 @@ struct Choices {
     std::optional<CuttingData> Data;  ///< of the last record with the path
 };
 
+/// Walks down a path, line by line. It looks at no unit, so that a tool of both units has the materials of both:
+/// intended. Names that are the path's own are listed already and left out.
+class Walk {
+public:
+    explicit Walk(Path path);
+
+    void Take(std::string_view line);
+    /// What the lines led to; once, at the end.
+    [[nodiscard]] Choices Found();
+
+private:
+    Path path_;
+    DistinctNames toolMaterials_;
+    DistinctNames workMaterials_;
+    std::optional<CuttingData> data_;
+};
+
 /// A store. All functions throw Fault where the file can't be opened, read or written; a failed rewrite leaves the
 /// old file whole.
 class Store {
@@ -50,8 +83,7 @@ public:
 
     /// The tools with data of the unit that are not listed already.
     [[nodiscard]] std::vector<std::string> Tools(Unit unit, const std::vector<std::string>& listed) const;
-    /// Walks down a path. It looks at no unit, so that a tool of both units has the materials of both: intended.
-    /// Names that are the path's own are listed already and left out.
+    /// The walk over all lines.
     [[nodiscard]] Choices WalkDown(const Path& path) const;
 
 private:
