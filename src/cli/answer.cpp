@@ -208,18 +208,22 @@ std::string WrittenWithFiles(std::span<const Answer> answers, Style style) {
     return text;
 }
 
-std::string WrittenInRows(std::span<const Answer> answers, Style style) {
-    if (style == Style::Json) {
-        return Dumped(ArrayOf(answers));
+void RowWriter::Add(const Answer& answer) {
+    if (style_ == Style::Json) {
+        text_.append(text_.empty() ? "[\n" : ",\n").append(JsonOf(answer).dump());
+        return;
     }
-    std::string csv;
-    if (!answers.empty()) {
-        AddNames(csv, answers.front().Items);
+    if (text_.empty()) {
+        AddNames(text_, answer.Items);
     }
-    for (const Answer& answer : answers) {
-        AddTexts(csv, answer.Items);
+    AddTexts(text_, answer.Items);
+}
+
+std::string RowWriter::Text() {
+    if (style_ == Style::Json) {
+        text_.append(text_.empty() ? "[" : "\n").append("]\n");
     }
-    return csv;
+    return std::move(text_);
 }
 
 std::string Spoken(std::string_view name) {

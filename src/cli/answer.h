@@ -36,8 +36,20 @@ enum class Style { Table, Json, Csv };
 [[nodiscard]] std::string Written(const Answer& answer, Style style);
 /// The answers of several documents: blocks of a table, an array, or as CSV a line for each value.
 [[nodiscard]] std::string WrittenWithFiles(std::span<const Answer> answers, Style style);
-/// The answers of one calculation for many lines of input: CSV with one head, or an array.
-[[nodiscard]] std::string WrittenInRows(std::span<const Answer> answers, Style style);
+/// The answers of one calculation for many lines of input, one after the other: CSV with one head, or an array with an
+/// object a line. Nothing is kept but the text.
+class RowWriter {
+public:
+    explicit RowWriter(Style style) : style_(style) {}
+
+    void Add(const Answer& answer);
+    /// The whole text; once, at the end.
+    [[nodiscard]] std::string Text();
+
+private:
+    Style style_;
+    std::string text_;
+};
 
 /// A name as a person reads it: "side a".
 [[nodiscard]] std::string Spoken(std::string_view name);

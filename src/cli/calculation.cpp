@@ -42,14 +42,14 @@ std::vector<std::string_view> Columns(const Command& command, const Arguments& g
     return options;
 }
 
-std::vector<Answer> AnswersTo(const Command& command, Solve solve, const Arguments& given, std::string_view csv) {
+std::string AnswersTo(const Command& command, Solve solve, const Arguments& given, std::string_view csv, Style style) {
     CsvReader reader(csv);
     std::vector<std::string> fields;
     if (!reader.Next(fields)) {
         throw Failure(Exit::BadInput, "the standard input is empty: a head of option names is missing");
     }
     const std::vector<std::string_view> options = Columns(command, given, fields);
-    std::vector<Answer> answers;
+    RowWriter answers(style);
     while (reader.Next(fields)) {
         if (fields.size() != options.size()) {
             RefuseLine(Exit::BadInput, reader.LineNumber(),
@@ -62,13 +62,13 @@ std::vector<Answer> AnswersTo(const Command& command, Solve solve, const Argumen
             }
         }
         try {
-            answers.push_back(solve(row));
+            answers.Add(solve(row));
         } catch (const Failure& failure) {
             RefuseLine(failure.Code() == Exit::Usage ? Exit::BadInput : failure.Code(), reader.LineNumber(),
                        failure.what());
         }
     }
-    return answers;
+    return answers.Text();
 }
 
 }  // namespace
@@ -80,7 +80,7 @@ std::string RunCalculation(const Command& command, Solve solve, const Arguments&
     }
     const Style style = StyleFrom(given, Style::Csv);
     const std::string csv = input();
-    return WrittenInRows(AnswersTo(command, solve, given, csv), style);
+    return AnswersTo(command, solve, given, csv, style);
 }
 
 SharedState SharedFor(const Display& display) {

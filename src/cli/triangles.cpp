@@ -34,8 +34,9 @@ Item ElementItem(const ElementRow& row, std::string text, bool given, const Disp
     return {row.Name, std::move(text), display.Minutes ? "" : "deg", !display.Minutes, given};
 }
 
-Item AreaItem(double area, Unit unit) {
-    return {"area", Format(area, AreaMask), SquareWordOf(unit), true, false};
+/// Nothing stands where the area is beyond the range of numbers.
+Item AreaItem(const std::optional<double>& area, Unit unit) {
+    return {"area", area ? Format(*area, AreaMask) : "", SquareWordOf(unit), true, false};
 }
 
 /// How many of the elements are given.
@@ -72,11 +73,12 @@ righttri::CaseLabels RightCase(const Arguments& given) {
 }
 
 std::array<std::string, RightRows.size()> RightTexts(const righttri::Triangle& found, const Display& display,
-                                                     SharedState& shared, double& area) {
+                                                     SharedState& shared, std::optional<double>& area) {
     const righttri::Answer shown =
         display.Minutes ? righttri::InMinutes(found, shared) : righttri::InDegrees(found, shared);
     const righttri::Triangle& rounded = shown.Rounded;
-    area = righttri::AreaOf(rounded.SideB, rounded.SideC);
+    // Sides whose area is out of range are shown without it: intended.
+    Guarded([&] { area = righttri::AreaOf(rounded.SideB, rounded.SideC); });
     const auto angle = [&](righttri::Part part, double value) {
         return display.Minutes ? DegreesShown(shown.Texts[righttri::IndexOf(part)]) : Trimmed(Str(value));
     };
@@ -94,9 +96,10 @@ Answer AnswerRight(const righttri::CaseLabels& labels, righttri::Entries entries
         const bool first = solution.Refused == righttri::Refusal::Text1Missing;
         throw Failure(Exit::BadInput, std::string(first ? labels.InputLabel1 : labels.InputLabel2) + " is missing");
     }
-    double area = 0;
+    std::optional<double> area;
     const auto texts = Solved([&] { return RightTexts(solution.Found, display, shared, area); });
     Answer answer{"right", WordOf(display.Measure), {}, {}, {}, {}};
+    answer.Items.reserve(RightRows.size() + 1);
     for (std::size_t i = 0; i < RightRows.size(); ++i) {
         const bool given = RightRows[i].Label == labels.InputLabel1 || RightRows[i].Label == labels.InputLabel2;
         answer.Items.push_back(ElementItem(RightRows[i], texts[i], given, display));
@@ -161,6 +164,7 @@ Answer AnswerOblique(const std::array<oblique::Element, ObliqueKnown>& known, co
     const oblique::Answer shown =
         Solved([&] { return display.Minutes ? InMinutes(triangle, shared) : InDegrees(triangle, shared); });
     Answer answer{"oblique", WordOf(display.Measure), {}, {}, {}, {}};
+    answer.Items.reserve(ObliqueRows.size() + 1);
     for (const oblique::Element element : oblique::AllElements) {
         const std::size_t index = oblique::Index(element);
         const bool given = std::find(known.begin(), known.end(), element) != known.end();

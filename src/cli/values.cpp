@@ -230,7 +230,7 @@ std::string AngleFrom(const Arguments& given, std::string_view option, Sign sign
             }
         }
     }
-    if (!rest.empty()) {
+    if (!rest.empty() || text.find_last_not_of(' ') == text.rfind(':')) {
         Refuse(option, text, "this is no angle");
     }
     return Accepted(option, text, FromMinutes(option, text, parts), sign);

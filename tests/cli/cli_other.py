@@ -1,0 +1,173 @@
+"""Bolt circles, sine plates, polygons, speeds and feeds: the numbers of the desktop program."""
+
+import re
+
+from cli_bench import same, shown
+
+
+def numbers_of(line):
+    """The numbers behind the signs of a line of the report."""
+    return [part.strip() for part in re.findall(r"=\s*(-?[\d.E+-]+)", line)]
+
+
+def blanks(text):
+    return re.sub(r"\s+", " ", text.strip())
+
+
+BOLTS = [("0", "0", "5", "6", ""), ("3", "2", "4.5", "6", "30"), ("-1.25", ".5", "120", "7", "12.5"),
+         ("0", "0", ".1", "1", "0"), ("10", "-20", "99.999", "13", "359.9")]
+
+
+def bolt_words(entries):
+    x, y, diameter, holes, start = entries
+    return ["bolt", "--center-x", x, "--center-y", y, "--diameter", diameter, "--holes", holes,
+            *(["--start-angle", start] if start else [])]
+
+
+def check_bolt(bench, places):
+    (bench.folder / "boltcirc.ini").write_text(f"Rounding={places}\r\n", newline="")
+    for entries in BOLTS:
+        with bench.desktop() as desktop:
+            desktop.do("start")
+            desktop.do("press Form11.Command3")
+            for box, text in zip(("Text1", "Text2", "Text3", "Text4", "Text5"), entries):
+                desktop.set("Form8." + box, text)
+            desktop.do("press Form8.Command1")
+            report = desktop.show("Form8.Text6.Text").split("\r\n")
+            desktop.do("press Form8.Check1")
+            angles = desktop.show("Form8.Text6.Text").split("\r\n")
+        words = [*bolt_words(entries), "--places", places]
+        rows = bench.rows(*words)
+        same([[row["x"], row["y"]] for row in rows], [numbers_of(line) for line in report if line.startswith("Hole ")],
+             words)
+        head = bench.json(*words)
+        for name, line, sign in (("chord", report[1], ":"), ("angle_spacing", report[2], ":"), ("diameter", report[3], ":")):
+            same(head[name], float(shown(line.split(sign)[1])), (words, name))
+        minutes = bench.rows(*words, "--angles-only", "--dms")
+        same([blanks(row["angle"]) for row in minutes],
+             [blanks(line.split("=")[1]) for line in angles if line.startswith("Hole ")], words)
+
+
+def test_bolt_4_places(bench):
+    check_bolt(bench, 4)
+
+
+def test_bolt_12_places(bench):
+    check_bolt(bench, 12)
+
+
+def test_sine_plates(bench):
+    with bench.desktop() as desktop:
+        desktop.do("start")
+        desktop.do("press Form11.Command4")
+        for option, top in (("Option1", None), ("Option2", "15"), ("Option2", "89.5"), ("Option2", ".25")):
+            desktop.do(f"set Form12.{option}.Value", -1)
+            for angle in ("30", "0.5", "90", "12.3456789"):
+                for spacing in ("5", "10", "3.5"):
+                    desktop.set("Form12.Combo1", spacing + '"')
+                    desktop.set("Form12.Text1", "")
+                    desktop.set("Form12.Text1", angle)
+                    if top:
+                        desktop.set("Form12.Text2", top)
+                    desktop.do("press Form12.Command1")
+                    compare_sine(bench, desktop, angle, top, spacing, "in")
+                    desktop.do("menu Form12.Inches2Millimeters")
+                    compare_sine(bench, desktop, angle, top, spacing, "mm")
+
+
+def compare_sine(bench, desktop, angle, top, spacing, unit):
+    same(desktop.show("boxes"), [], (angle, top))
+    words = ["sine", *(["--bottom-angle", angle, "--top-angle", top] if top else ["--angle", angle]),
+             "--spacing", spacing, "--unit", unit]
+    row = bench.rows(*words)[0]
+    if top:
+        same([row["bottom_buildup"], row["top_buildup"], row["buildup"]], [*desktop.texts("Form12", ["Text3", "Text4"]), ""],
+             words)
+    else:
+        same([row["buildup"], row["bottom_buildup"]], [*desktop.texts("Form12", ["Text3"]), ""], words)
+
+
+def test_polygons(bench):
+    with bench.desktop() as desktop:
+        desktop.do("start")
+        desktop.do("press Form11.Command6")
+        for sides in range(3, 37):
+            across = ("Option2", "--flat-to-corner") if sides % 2 else ("Option1", "--across-flats")
+            for circle, word in (("Option4", "--inscribed"), ("Option5", "--circumscribed")):
+                for option, name in (across, ("Option3", "--one-flat")):
+                    dimension = "1.75" if sides % 3 else ".001"
+                    desktop.set("Form16.Combo1", str(sides))
+                    desktop.do(f"set Form16.{circle}.Value", -1)
+                    desktop.do(f"set Form16.{option}.Value", -1)
+                    desktop.set("Form16.Text1", dimension)
+                    desktop.do("press Form16.Command1")
+                    row = bench.rows("polygon", "--sides", sides, name, dimension, word)[0]
+                    same([row["diameter"], "Area= " + row["area"]],
+                         [desktop.show("Form16.Text2.Text"), desktop.show("Form16.Label1.Caption")],
+                         (sides, name, word))
+
+
+# Surface speed, feed, diameter, teeth, depth, width, power factor, length, cuts.
+CUTS = [("100", ".002", ".5", "4", ".1", ".5", ".6", "10", "2"), ("350", ".15", "12", "2", "3", "8", "1.2", "1000", "40"),
+        ("25", ".0005", "3", "1", ".01", ".02", "3", ".5", "1")]
+SPEED_OPTIONS = ["--surface-speed", "--feed", "--diameter", "--teeth", "--depth", "--width", "--power-factor", "--length",
+                 "--cuts"]
+SPEED_BOXES = ["Text3", "Text4", "Text5", "Text6", "Text7", "Text8", "Text9", "Text14", "Text15"]
+
+
+def test_speeds_and_feeds(bench):
+    with bench.desktop() as desktop:
+        desktop.do("start")
+        desktop.do("press Form11.Command7")
+        desktop.do("additem Form19.Combo1", "Lathe")
+        for machine in ("Mill", "Lathe"):
+            desktop.do("choose Form19.Combo1", machine)
+            for unit, item in (("in", "Form19.InchTo"), ("mm", "Form19.MMTo")):
+                if desktop.show(item + ".Checked") == 0:
+                    desktop.do("menu " + item)
+                for cut in CUTS:
+                    compare_speeds(bench, desktop, machine, unit, cut)
+
+
+def compare_speeds(bench, desktop, machine, unit, cut):
+    words = ["speeds", "--machine", machine.lower(), "--unit", unit]
+    for option, box, text in zip(SPEED_OPTIONS, SPEED_BOXES, cut):
+        if machine == "Mill" or option not in ("--teeth", "--width"):
+            desktop.set("Form19." + box, text)
+            words += [option, text]
+    desktop.do("press Form19.Command1")
+    same(desktop.show("boxes"), [], words)
+    row = bench.rows(*words)[0]
+    names = ["spindle_speed", "feed_rate", "removal_rate", "time_in_cut", "power"]
+    same([row[name] for name in names], desktop.texts("Form19", ["Text10", "Text11", "Text12", "Text13", "Text16"]), words)
+
+
+DATA = ("I_End mill!Carbide@Aluminum#500-1000$.002-.006%.33^\r\nM_End mill!Carbide@Aluminum#150-300$.05-.15%.9^\r\n"
+        "I_Drill!HSS@Steel#80$.004%^\r\n")
+
+
+def test_speeds_from_cutting_data(bench):
+    (bench.folder / "Mill.dat").write_text(DATA, newline="")
+    base = ["speeds", "--data", "Mill.dat", "--tool", "End mill", "--tool-material", "Carbide", "--work-material",
+            "Aluminum", "--teeth", "4"]
+    with bench.desktop() as desktop:
+        desktop.do("start")
+        desktop.do("press Form11.Command7")
+        desktop.do("choose Form19.Combo2", "Drill")
+        desktop.do("choose Form19.Combo3", "HSS")
+        desktop.do("choose Form19.Combo4", "Steel")
+        desktop.set("Form19.Text5", ".25")
+        desktop.set("Form19.Text6", "2")
+        desktop.do("press Form19.Command1")
+        texts = desktop.texts("Form19", ["Text3", "Text4", "Text10", "Text11"])
+    row = bench.rows("speeds", "--data", "Mill.dat", "--tool", "Drill", "--tool-material", "HSS", "--work-material", "Steel",
+                     "--diameter", ".25", "--teeth", "2")[0]
+    same([row["surface_speed"], row["feed"], row["spindle_speed"], row["feed_rate"]], texts, "from data")
+    # The lower ends: 500 ft/min and .002; in millimeters 150 m/min and .05.
+    row = bench.rows(*base, "--diameter", ".5")[0]
+    same([row["surface_speed"], row["feed"], row["power_factor"]], ["500", ".002", ".33"], "inch data")
+    row = bench.rows(*base, "--diameter", "12", "--unit", "mm")[0]
+    same([row["surface_speed"], row["feed"]], ["150", ".05"], "metric data")
+    bench.refuses(4, "Range of 500-1000", *base, "--diameter", ".5", "--surface-speed", "499")
+    bench.refuses(3, "no data in this unit", "speeds", "--data", "Mill.dat", "--tool", "Drill", "--tool-material", "HSS",
+                  "--work-material", "Steel", "--diameter", "6", "--teeth", "2", "--unit", "mm")
