@@ -259,7 +259,7 @@ void Require(const Arguments& given, std::string_view option) {
 std::string_view OnlyOneOf(const Arguments& given, std::span<const std::string_view> options) {
     std::string_view found;
     std::string names;
-    for (const std::string_view option : options) {
+    for (const std::string_view& option : options) {
         names.append(names.empty() ? "" : &option == &options.back() ? " or " : ", ").append(option);
         if (given.Has(option)) {
             if (!found.empty()) {
