@@ -1,6 +1,7 @@
 // First lines and Booleans.
 #include "services/words.h"
 
+#include "frame/fault.h"
 #include "frame/text.h"
 
 #include <algorithm>
@@ -29,7 +30,10 @@ std::optional<bool> BooleanFromWord(const std::string& word) {
     if (lower.empty() || lower.find_first_not_of(" +-.0123456789") != std::string::npos) {
         return std::nullopt;
     }
-    return Val(lower) != 0;
+    std::optional<bool> value;
+    // More digits than a number can have are none.
+    Guarded([&] { value = Val(lower) != 0; });
+    return value;
 }
 
 }  // namespace brindlex

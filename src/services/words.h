@@ -13,7 +13,8 @@ namespace brindlex {
 
 /// The words of a Boolean in a document.
 [[nodiscard]] std::string BooleanWord(bool value);
-/// "True" and "False" in any case, or a number, which is true when it isn't 0; nothing for any other word.
+/// "True" and "False" in any case, or a number, which is true when it isn't 0; nothing for any other word, nor for a
+/// number that is too large.
 [[nodiscard]] std::optional<bool> BooleanFromWord(const std::string& word);
 
 }  // namespace brindlex

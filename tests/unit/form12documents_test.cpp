@@ -62,6 +62,14 @@ TEST_F(SinePlates, OpensACompoundDocument) {
     EXPECT_EQ(F().Caption(), "Brindlex 3.0.2- Solutions To Sines");
 }
 
+TEST_F(SinePlates, AWordOfMoreDigitsThanANumberHasIsPassedOver) {
+    Open("5\"\r\n" + std::string(400, '9') + "\r\nTrue\r\n45\r\n60\r\n");
+    EXPECT_FALSE(program.Ended());
+    EXPECT_TRUE(F().Option2.Value());
+    EXPECT_EQ(F().Text3.Text(), "2.2361");  // 5 / sqrt(5)
+    EXPECT_EQ(F().Text4.Text(), "4.3301");  // 5 sin 60
+}
+
 TEST_F(SinePlates, OpensARegularDocumentWithItsEmptyLastLine) {
     Compound("45", "60");
     Open("5\"\r\nTrue\r\nFalse\r\n30\r\n\r\n");

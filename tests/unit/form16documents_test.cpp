@@ -40,6 +40,13 @@ TEST_F(Polygons, OpensADocument) {
     EXPECT_EQ(F().Caption(), Title);
 }
 
+TEST_F(Polygons, AWordOfMoreDigitsThanANumberHasIsPassedOver) {
+    Open(" 7\r\n" + std::string(400, '9') + "\r\nTrue\r\nFalse\r\nTrue\r\nFalse\r\n1.5\r\n");
+    EXPECT_FALSE(program.Ended());
+    EXPECT_TRUE(F().Option5.Value());
+    EXPECT_EQ(F().Text2.Text(), "3.1148");  // 1.5 / tan(180 / 7)
+}
+
 TEST_F(Polygons, OpensOverEntriesOfTheSameSides) {
     Solve("9");
     Open("6\r\nFalse\r\nTrue\r\nTrue\r\nFalse\r\nFalse\r\n1.5\r\n");
