@@ -239,9 +239,10 @@ std::string InputFile::AllBytes() {
 }
 
 void OutputFile::Print(std::string_view text) {
+    // In one piece, so that no kill comes between a line and its end.
+    const std::string line = std::string(text) + std::string(LineEnd);
     errno = 0;
-    stream_.write(text.data(), static_cast<std::streamsize>(text.size()));
-    stream_.write(LineEnd.data(), static_cast<std::streamsize>(LineEnd.size()));
+    stream_.write(line.data(), static_cast<std::streamsize>(line.size()));
     Check();
 }
 

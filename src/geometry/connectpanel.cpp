@@ -171,7 +171,13 @@ void ConnectPanel::ConnectStuff() {
     const Named first = NamedBy(Text12.Text(), Text13.Text(), Text14.Text());
     const Named second = NamedBy(Text15.Text(), Text16.Text(), Text17.Text());
     const Store live = work_.Live();
-    const std::vector<std::string> lines = live.Lines();
+    const auto stored = live.TryLines();
+    if (!stored) {
+        // No line is made of what can't be read.
+        Session::Run(work_.Calls.WithdrawLines);
+        return;
+    }
+    const std::vector<std::string>& lines = *stored;
     const std::vector<Segment> candidates = Connect(lines, first, second, work_.Tangency());
     std::vector<std::string> records;
     for (const Segment& line : candidates) {

@@ -31,8 +31,12 @@ bool Taken(const Folder& folder, const std::string& name) {
 
 std::optional<std::string> RecoverLeftOver(const Folder& folder) {
     constexpr int MostRecovered = 10000;
-    const std::vector<std::string> records = Store(folder).Lines();
-    if (std::none_of(records.begin(), records.end(), [](const auto& line) { return KindOf(line) != Kind::None; })) {
+    const auto records = Store(folder).TryLines();
+    if (!records && !folder.Exists(StoreFile)) {
+        return std::nullopt;  // something else bears the name
+    }
+    if (records &&
+        std::none_of(records->begin(), records->end(), [](const auto& line) { return KindOf(line) != Kind::None; })) {
         return std::nullopt;
     }
     int count = 1;
@@ -40,8 +44,8 @@ std::optional<std::string> RecoverLeftOver(const Folder& folder) {
         ++count;
     }
     const std::string name = RecoveredName(count);
-    const bool saved = Guarded([&] { WriteDocument(folder, name, GeoLines(records, Unit::Inch)); });
-    // A full disk still lets the store itself take the name.
+    const bool saved = records && Guarded([&] { WriteDocument(folder, name, GeoLines(*records, Unit::Inch)); });
+    // A full disk, and one that can't be read, still lets the store itself take the name.
     if (saved || Guarded([&] { folder.Name(StoreFile, name); })) {
         return name;
     }

@@ -25,12 +25,18 @@ void Fill(ComboBox& list, const std::vector<std::string>& items) {
 
 void PairLists::FindAng() {
     const Store live = work_.Live();
-    const std::vector<std::string> lines = live.Lines();
-    const bool copied = live.WriteLineCopy(lines);
-    const Crossings pairs = FindCrossings(lines);
+    const auto lines = live.TryLines();
+    if (!lines) {
+        // No circle is made of what can't be read.
+        tangent_.Combo1.Clear();
+        potential_.Clear();
+        return;
+    }
+    const bool copied = live.WriteLineCopy(*lines);
+    const Crossings pairs = FindCrossings(*lines);
     Fill(tangent_.Combo1, pairs.Crossing);
     Fill(potential_, pairs.Potential);
-    tangent_.MoreAng(lines, copied);
+    tangent_.MoreAng(*lines, copied);
 }
 
 }  // namespace brindlex::geometry

@@ -7,6 +7,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cstdint>
 #include <filesystem>
 #include <fstream>
 #include <ios>
@@ -91,12 +92,20 @@ int Store::Count() const {
 }
 
 bool Store::Append(std::string_view record) const {
-    return Guarded([&] {
+    const std::filesystem::path path = folder_->PathOf(StoreFile);
+    std::error_code error;
+    const std::uintmax_t size = std::filesystem::file_size(path, error);
+    const bool appended = Guarded([&] {
         OutputFile file = folder_->OpenAppend(StoreFile);
         const std::string before = EndsWithinLine(*folder_, StoreFile) ? "\r\n" : "";
         file.Print(before + std::string(record));
         file.Close();
     });
+    if (!appended && !error) {
+        // A disk that is full may have taken a part of it.
+        std::filesystem::resize_file(path, size, error);
+    }
+    return appended;
 }
 
 bool Store::Append(const std::vector<std::string>& records) const {
@@ -163,8 +172,8 @@ bool Store::WriteLineCopy(const std::vector<std::string>& lines) const {
     return Guarded([&] { folder_->RewriteLines(scratch::LineCopy, copy, Durability::Step); });
 }
 
-std::vector<std::string> Store::TakeLineCopy() const {
-    std::vector<std::string> lines;
+std::optional<std::vector<std::string>> Store::TakeLineCopy() const {
+    std::optional<std::vector<std::string>> lines;
     Guarded([&] { lines = LinesOf(*folder_, scratch::LineCopy); });
     KillLineCopy();
     return lines;

@@ -59,8 +59,8 @@ public:
 
     /// Copies the line records of the lines to the scratch file of the tangent circles.
     bool WriteLineCopy(const std::vector<std::string>& lines) const;
-    /// The copy, and deletes it.
-    [[nodiscard]] std::vector<std::string> TakeLineCopy() const;
+    /// The copy, and deletes it; nothing where there is none that can be read.
+    [[nodiscard]] std::optional<std::vector<std::string>> TakeLineCopy() const;
     void KillLineCopy() const;
 
 private:

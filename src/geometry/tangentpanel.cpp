@@ -81,7 +81,7 @@ void TangentPanel::MoreAng(const std::vector<std::string>& lines, bool copied) {
         }
         return;
     }
-    MakeCircles(copied ? live.TakeLineCopy() : lines, radius);
+    MakeCircles(copied ? live.TakeLineCopy().value_or(lines) : lines, radius);
     live.KillLineCopy();
 }
 

@@ -224,6 +224,8 @@ TEST_F(Connecting, AStoreThatCanNotBeReadEndsNothing) {
     form->Command3.Value(true);
     EXPECT_FALSE(program.Ended());
     EXPECT_TRUE(Messages().empty());
+    EXPECT_EQ(form->Work.Entities.LineTop, 0);
+    EXPECT_FALSE(form->Command13.Visible());
 }
 
 TEST_F(Connecting, OnTheFormEveryLineTouchesBothCirclesUnderExactTangents) {

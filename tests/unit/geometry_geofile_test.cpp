@@ -8,6 +8,8 @@
 
 #include <gtest/gtest.h>
 
+#include <filesystem>
+
 #include <string>
 #include <vector>
 
@@ -45,6 +47,17 @@ TEST(GeometryGeoFile, RecoversUnderFreeNames) {
     EXPECT_EQ(file.LineInput(), "a note");
     EXPECT_EQ(file.LineInput(), point);
     EXPECT_TRUE(file.Eof());
+}
+
+TEST(GeometryGeoFile, ADrawingThatCanNotBeReadTakesTheNameItself) {
+    const TestFolder folder;
+    // A device of that kind is not read from.
+    std::filesystem::create_symlink("/dev/zero", folder.Path() / "geometry.dat");
+    EXPECT_EQ(RecoverLeftOver(folder.Files()), "recovered.geo");
+    EXPECT_EQ(folder.Names(), Lines{"recovered.geo"});
+    // A folder is no drawing.
+    std::filesystem::create_directory(folder.Path() / "geometry.dat");
+    EXPECT_EQ(RecoverLeftOver(folder.Files()), std::nullopt);
 }
 
 TEST(GeometryUnitChange, TheWayToInchesMultiplies) {

@@ -3,12 +3,14 @@
 
 #include "geometry/rules.h"
 #include "unit/geometryrecords.h"
+#include "unit/smalldisk.h"
 #include "unit/testfolder.h"
 
 #include <gtest/gtest.h>
 
 #include <filesystem>
 #include <numeric>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -32,6 +34,25 @@ TEST(GeometryStore, AppendsNothingToAnUnfinishedLine) {
     folder.Put("geometry.dat", "left by an editor");
     EXPECT_TRUE(Store(folder.Files()).Append("new"));
     EXPECT_EQ(folder.Get("geometry.dat"), "left by an editor\r\nnew\r\n");
+}
+
+TEST(GeometryStore, AFullDiskLeavesThePresentDrawing) {
+    const TestFolder folder;
+    const Store store(folder.Files());
+    const std::string old = PointLine(1, "1.50", "2") + "\r\n";
+    folder.Put("geometry.dat", old);
+    // A short record goes to the disk when the file is closed, a long one at once.
+    for (const std::string& record : {PointLine(2, "3", "4"), std::string(5000, 'x')}) {
+        for (const rlim_t more : {rlim_t{0}, rlim_t{1}, rlim_t{record.size()}, rlim_t{record.size() + 1}}) {
+            {
+                const SmallDisk disk(old.size() + more);
+                EXPECT_FALSE(store.Append(record));
+            }
+            EXPECT_EQ(folder.Get("geometry.dat"), old);
+        }
+    }
+    EXPECT_TRUE(store.Append("two"));
+    EXPECT_EQ(folder.Get("geometry.dat"), old + "two\r\n");
 }
 
 TEST(GeometryStore, MissingReadsAsEmpty) {
@@ -115,7 +136,7 @@ TEST(GeometryStore, CopyOfTheLineRecords) {
     EXPECT_EQ(folder.Get("aaaa.tmp"), lines[1] + "\r\n" + lines[3] + "\r\n");
     EXPECT_EQ(store.TakeLineCopy(), (Lines{lines[1], lines[3]}));
     EXPECT_EQ(folder.Names(), Lines{});
-    EXPECT_EQ(store.TakeLineCopy(), Lines{});
+    EXPECT_EQ(store.TakeLineCopy(), std::nullopt);
 }
 
 TEST(GeometryStore, RepairsTailsWhosePartnersWent) {

@@ -71,6 +71,16 @@ TEST_F(Tangent, FourCirclesInARightAngle) {
     EXPECT_EQ(form->Work.Entities.EntNum, 6);
 }
 
+TEST_F(Tangent, NoCirclesAreMadeOfAStoreThatCanNotBeRead) {
+    RightAngle();
+    std::filesystem::remove(folder.Path() / "geometry.dat");
+    std::filesystem::create_directory(folder.Path() / "geometry.dat");
+    Enter("1");
+    EXPECT_EQ(form->Work.Entities.CircleTop, 0);
+    EXPECT_EQ(form->Frame8.Combo1.List(), Texts{});
+    EXPECT_TRUE(Messages().empty());
+}
+
 TEST_F(Tangent, TheRadiiAreDrawnToBothLines) {
     RightAngle();
     Enter("1");

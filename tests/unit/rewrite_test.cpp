@@ -3,15 +3,14 @@
 
 #include "frame/textfile.h"
 #include "unit/faultof.h"
+#include "unit/smalldisk.h"
 #include "unit/testfolder.h"
 
 #include <gtest/gtest.h>
-#include <sys/resource.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
 #include <cerrno>
-#include <csignal>
 #include <filesystem>
 #include <string>
 #include <system_error>
@@ -22,29 +21,6 @@ namespace {
 
 namespace fs = std::filesystem;
 using Names = std::vector<std::string>;
-
-/// Lets no file grow beyond a size, as a disk that fills up in the middle of a file.
-class SmallDisk {
-public:
-    explicit SmallDisk(rlim_t size) : signal_(std::signal(SIGXFSZ, SIG_IGN)) {
-        ::getrlimit(RLIMIT_FSIZE, &old_);
-        rlimit limit = old_;
-        limit.rlim_cur = size;
-        ::setrlimit(RLIMIT_FSIZE, &limit);
-    }
-    SmallDisk(const SmallDisk&) = delete;
-    SmallDisk(SmallDisk&&) = delete;
-    SmallDisk& operator=(const SmallDisk&) = delete;
-    SmallDisk& operator=(SmallDisk&&) = delete;
-    ~SmallDisk() {
-        ::setrlimit(RLIMIT_FSIZE, &old_);
-        std::signal(SIGXFSZ, signal_);
-    }
-
-private:
-    rlimit old_{};
-    void (*signal_)(int);
-};
 
 mode_t ModeOf(const fs::path& path) {
     struct stat status {};

@@ -2,15 +2,14 @@
 #include "speedsfeeds/store.h"
 
 #include "faultof.h"
+#include "smalldisk.h"
 #include "speedsfeeds/record.h"
 #include "testfolder.h"
 
 #include <gtest/gtest.h>
-#include <sys/resource.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
-#include <csignal>
 #include <filesystem>
 #include <string>
 #include <vector>
@@ -199,29 +198,6 @@ TEST_F(CuttingStore, WhatCanNotBeReadIsNotRewritten) {
     fs::permissions(folder.Path() / "Mill.dat", fs::perms::owner_read | fs::perms::owner_write);
     EXPECT_EQ(folder.Get("Mill.dat"), Drill + "\r\n");
 }
-
-/// Lets no file grow beyond a size, as a disk that fills up in the middle of a file.
-class SmallDisk {
-public:
-    explicit SmallDisk(rlim_t size) : signal_(std::signal(SIGXFSZ, SIG_IGN)) {
-        ::getrlimit(RLIMIT_FSIZE, &old_);
-        rlimit limit = old_;
-        limit.rlim_cur = size;
-        ::setrlimit(RLIMIT_FSIZE, &limit);
-    }
-    SmallDisk(const SmallDisk&) = delete;
-    SmallDisk(SmallDisk&&) = delete;
-    SmallDisk& operator=(const SmallDisk&) = delete;
-    SmallDisk& operator=(SmallDisk&&) = delete;
-    ~SmallDisk() {
-        ::setrlimit(RLIMIT_FSIZE, &old_);
-        std::signal(SIGXFSZ, signal_);
-    }
-
-private:
-    rlimit old_{};
-    void (*signal_)(int);
-};
 
 Names ManyRecords(int count) {
     Names lines;
