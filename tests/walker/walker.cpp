@@ -3,7 +3,6 @@
 
 #include "frame/buttons.h"
 #include "frame/combobox.h"
-#include "frame/label.h"
 #include "frame/picturebox.h"
 #include "frame/scrollbar.h"
 #include "frame/textbox.h"
@@ -16,7 +15,6 @@ namespace brindlex {
 namespace {
 
 constexpr std::size_t TrailLength = 40;
-constexpr std::size_t MostDrawn = 200000;
 
 const std::vector<std::string>& Pastes() {
     static const std::vector<std::string> texts{"",
@@ -58,14 +56,10 @@ const std::vector<std::string>& FileNames() {
     return names;
 }
 
-bool SpeaksOfNoNumber(const std::string& text) {
-    return text.find("nan") != std::string::npos || text.find("inf") != std::string::npos;
-}
-
 }  // namespace
 
 Walker::Walker(Program& program, DrivenRun& run, Player& player, unsigned seed)
-    : program_(program), run_(run), player_(player), random_(seed) {
+    : program_(program), run_(run), player_(player), watch_(program, run), random_(seed) {
     run_.ModalLoop = [this](Form& form) {
         while (form.Visible() && GoesOn()) {
             Step();
@@ -81,6 +75,9 @@ int Walker::Walk(int acts) {
     }
     if (program_.Ended() && !mayEnd_ && broken_.empty()) {
         broken_ = "the program ended by itself";
+    }
+    if (program_.Ended() && broken_.empty()) {
+        broken_ = watch_.LookAtEnd();
     }
     return done_;
 }
@@ -282,32 +279,11 @@ void Walker::PointAt(Control& control) {
 }
 
 void Walker::Look() {
-    for (const MessageBox& box : run_.Boxes) {
-        if (box.Text.starts_with("Run-time error")) {
-            broken_ = "a fault reached the user: " + box.Text;
-        }
+    if (broken_.empty()) {
+        broken_ = watch_.Look();
     }
-    run_.Boxes.clear();
-    for (const Form* const form : program_.Forms()) {
-        LookAt(*form);
-    }
-}
-
-void Walker::LookAt(const Form& form) {
-    for (const Control* const control : form.Controls()) {
-        std::string text;
-        if (const auto* const box = dynamic_cast<const EditControl*>(control)) {
-            text = box->Text();
-        } else if (const auto* const label = dynamic_cast<const Label*>(control)) {
-            text = label->Caption();
-        } else if (const auto* const picture = dynamic_cast<const PictureBox*>(control)) {
-            if (picture->Drawn().Items().size() > MostDrawn) {
-                broken_ = form.Name() + "." + control->Name() + " grows without end";
-            }
-        }
-        if (SpeaksOfNoNumber(text)) {
-            broken_ = form.Name() + "." + control->Name() + " shows " + text;
-        }
+    if (broken_.empty() && also_) {
+        broken_ = also_();
     }
 }
 

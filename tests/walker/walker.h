@@ -2,13 +2,17 @@
 // watches what must hold after every act.
 #pragma once
 
+#include "watch.h"
+
 #include "frame/drivenrun.h"
 #include "frame/player.h"
 #include "frame/program.h"
 
 #include <deque>
+#include <functional>
 #include <random>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace brindlex {
@@ -23,6 +27,8 @@ public:
 
     /// Goes on until so many acts are done or the program has ended. Returns how many were done.
     int Walk(int acts);
+    /// A look of the caller's own after every act: it tells what does not hold.
+    void AlsoLook(std::function<std::string()> look) { also_ = std::move(look); }
     /// What did not hold; empty while all holds.
     [[nodiscard]] const std::string& Broken() const { return broken_; }
     /// The last acts, oldest first.
@@ -40,7 +46,6 @@ private:
     void ActOnToolbar(Toolbar& toolbar);
     void PointAt(Control& control);
     void Look();
-    void LookAt(const Form& form);
     void Say(const std::string& act);
     [[nodiscard]] bool GoesOn() const { return left_ > 0 && broken_.empty() && !program_.Ended(); }
 
@@ -55,6 +60,8 @@ private:
     Program& program_;
     DrivenRun& run_;
     Player& player_;
+    Watch watch_;
+    std::function<std::string()> also_;
     std::mt19937 random_;
     int left_ = 0;
     int done_ = 0;
