@@ -9,9 +9,9 @@ def processors():
     return len(os.sched_getaffinity(0))
 
 
-def in_parallel(work, items):
-    """The results of work(item), in the order of the items, with a processor for each."""
-    with concurrent.futures.ThreadPoolExecutor(processors()) as pool:
+def in_parallel(work, items, jobs=None):
+    """The results of work(item), in the order of the items, with a processor for each, or so many at a time."""
+    with concurrent.futures.ThreadPoolExecutor(jobs or processors()) as pool:
         return list(pool.map(work, items))
 
 

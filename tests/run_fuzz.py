@@ -1,59 +1,83 @@
 #!/usr/bin/env python3
-"""Runs every fuzzer for a short while, one a processor: run_fuzz.py FOLDER_OF_FUZZERS [SECONDS_EACH]
+"""Runs the fuzzers, one a processor: run_fuzz.py FOLDER_OF_FUZZERS [SECONDS_EACH] [--runs N] [--jobs N] [--only NAME...]
 
-Seeds come from tests/fuzz/corpus/NAME, words from tests/fuzz/NAME.dict. What a run finds new stays in
-FOLDER/../corpus/NAME; an input that breaks the program is left in FOLDER/../findings.
+For so many seconds each, or for so many runs. Seeds come from tests/fuzz/corpus/NAME, words from tests/fuzz/NAME.dict;
+what reads alone (X_read_fuzz) takes those of the form (X_fuzz) where it has none of its own. What a run finds new stays
+in FOLDER/../corpus/NAME; an input that breaks the program is left in FOLDER/../findings.
 """
 
+import argparse
 import os
 import pathlib
 import subprocess
-import sys
 import tempfile
 
 import harness
 
 SOURCES = pathlib.Path(__file__).resolve().parent / "fuzz"
+LONGEST = 160  # bytes of an input in a run by count; its rate depends on it
+DAY = 24 * 3600
 
 
-def run_fuzzer(program, seconds):
-    """Whether the fuzzer ran to its end without a finding."""
+def kept(name, where):
+    """The seeds or the words of a fuzzer, or of the form's that reads the same; None where there are none."""
+    for own in (name, name.replace("_read_fuzz", "_fuzz")):
+        if where(own).exists():
+            return where(own)
+    return None
+
+
+def command_of(program, options):
     name = program.name
-    learnt = program.parent.parent / "corpus" / name
-    findings = program.parent.parent / "findings"
+    learnt, findings = program.parent.parent / "corpus" / name, program.parent.parent / "findings"
     learnt.mkdir(parents=True, exist_ok=True)
     findings.mkdir(exist_ok=True)
-    command = [str(program), f"-max_total_time={seconds}", "-timeout=20", "-rss_limit_mb=3000", "-print_final_stats=1",
+    limit = [f"-runs={options.runs}", f"-max_len={LONGEST}"] if options.runs else [f"-max_total_time={options.seconds}"]
+    command = [str(program), *limit, "-timeout=20", "-rss_limit_mb=3000", "-print_final_stats=1",
                f"-artifact_prefix={findings}/{name}-", str(learnt)]
-    seeds, words = SOURCES / "corpus" / name, SOURCES / f"{name}.dict"
-    command += [str(seeds)] if seeds.is_dir() else []
-    command += [f"-dict={words}"] if words.is_file() else []
-    with tempfile.TemporaryDirectory(prefix="brindlex-fuzz-") as working:
+    seeds, words = kept(name, lambda own: SOURCES / "corpus" / own), kept(name, lambda own: SOURCES / f"{own}.dict")
+    command += [str(seeds)] if seeds else []
+    command += [f"-dict={words}"] if words else []
+    return command
+
+
+def run_fuzzer(program, options):
+    """Whether the fuzzer ran to its end without a finding."""
+    name = program.name
+    memory = "/dev/shm" if os.access("/dev/shm", os.W_OK) else None
+    most = DAY if options.runs else options.seconds + 120
+    with tempfile.TemporaryDirectory(prefix="brindlex-fuzz-", dir=memory) as working:
         environment = dict(os.environ, TMPDIR=working)
         try:
-            done = subprocess.run(command, cwd=working, env=environment, stdin=subprocess.DEVNULL,
-                                  stdout=subprocess.PIPE, stderr=subprocess.STDOUT, timeout=seconds + 120, check=False)
+            done = subprocess.run(command_of(program, options), cwd=working, env=environment, stdin=subprocess.DEVNULL,
+                                  stdout=subprocess.PIPE, stderr=subprocess.STDOUT, timeout=most, check=False)
         except subprocess.TimeoutExpired as expired:
-            harness.tell_failure(name, f"not done {seconds + 120} s after its start", expired.stdout or b"")
+            harness.tell_failure(name, f"not done {most} s after its start", expired.stdout or b"")
             return False
     if done.returncode != 0:
         harness.tell_failure(name, done.stdout)
         return False
-    runs = [line.split()[-1] for line in done.stdout.decode("utf-8", "replace").splitlines()
-            if line.startswith("stat::number_of_executed_units")]
-    print(f"{name}: {runs[0] if runs else '?'} inputs in {seconds} s")
+    stats = dict(line[len("stat::"):].split(":") for line in done.stdout.decode("utf-8", "replace").splitlines()
+                 if line.startswith("stat::"))
+    print(f"{name}: {stats['number_of_executed_units'].strip()} inputs, {stats['average_exec_per_sec'].strip()} a second",
+          flush=True)
     return True
 
 
 def main():
-    folder = pathlib.Path(sys.argv[1]).resolve()
-    seconds = int(sys.argv[2]) if len(sys.argv) > 2 else 5
-    names = sorted(path.stem for path in SOURCES.glob("*_fuzz.cpp"))
-    missing = [name for name in names if not (folder / name).is_file()]
+    options = argparse.ArgumentParser()
+    options.add_argument("folder", type=lambda name: pathlib.Path(name).resolve())
+    options.add_argument("seconds", type=int, nargs="?", default=10)
+    options.add_argument("--runs", type=int, default=0)
+    options.add_argument("--jobs", type=int, default=harness.processors())
+    options.add_argument("--only", nargs="+", default=[])
+    options = options.parse_args()
+    names = options.only or sorted(path.stem for path in SOURCES.glob("*_fuzz.cpp"))
+    missing = [name for name in names if not (options.folder / name).is_file()]
     for name in missing:
         harness.tell_failure(name, "it was not built")
-    results = harness.in_parallel(lambda name: run_fuzzer(folder / name, seconds),
-                                  [name for name in names if name not in missing])
+    results = harness.in_parallel(lambda name: run_fuzzer(options.folder / name, options),
+                                  [name for name in names if name not in missing], options.jobs)
     harness.finish("fuzzers", results.count(True), results.count(False) + len(missing))
 
 

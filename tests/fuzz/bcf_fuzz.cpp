@@ -3,28 +3,19 @@
 // while coordinates are shown, nothing drawn is infinite, and what is saved comes back.
 #include "formfuzz.h"
 
-#include "app/forms.h"
 #include "boltcircle/form8.h"
-#include "frame/program.h"
-#include "headless/headlessruntime.h"
-#include "services/rounddialog.h"
 
-#include <algorithm>
 #include <cmath>
 #include <cstddef>
 #include <cstdint>
-#include <filesystem>
 #include <iterator>
 #include <string>
-#include <string_view>
 #include <vector>
 
 namespace {
 
 using namespace brindlex;
 using boltcircle::Form8;
-
-constexpr std::size_t MostActs = 8;
 
 void CheckForm(const Form8& form, const DrivenRun& run) {
     Demand(!form.Owner().Ended());
@@ -94,28 +85,5 @@ void Act(Form8& form, DrivenRun& run, char letter) {
 }  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-    static const ScratchFolder scratch;
-    const std::string input(data, data + size);
-    const std::size_t end = std::min(input.find('\n'), input.size());
-    const Folder folder(scratch.Path());
-    folder.Rewrite("input.bcf", end < input.size() ? std::string_view(input).substr(end + 1) : std::string_view(),
-                   Durability::Step);
-    DrivenRun run;
-    run.ModalLoop = [&](Form& dialog) {
-        if (auto* const round = dynamic_cast<RoundNumbersDialog*>(&dialog)) {
-            round->Combo1.Text(std::to_string(1 + size % 15));
-            round->Command1.Value(true);
-        }
-    };
-    HeadlessRuntime runtime(run, {1024, 768});
-    Program program(runtime, folder);
-    RegisterForms(program);
-    auto& form = dynamic_cast<Form8&>(program.Get("Form8"));
-    form.Show();
-    Open(form, run, "input.bcf");
-    CheckForm(form, run);
-    for (const char letter : input.substr(0, std::min(end, MostActs))) {
-        Act(form, run, letter);
-    }
-    return 0;
+    return RunDocument<Form8>({"Form8", "input.bcf", Open, CheckForm, Act}, data, size);
 }

@@ -1,5 +1,7 @@
 // Degree text of any bytes: it is read as a number or refused as a bad argument or an overflow, and nothing else.
 // What the program writes as degree text reads back as the same angle.
+#include "readfuzz.h"
+
 #include "frame/fault.h"
 #include "frame/text.h"
 #include "services/degrees.h"
@@ -8,18 +10,11 @@
 #include <cmath>
 #include <cstddef>
 #include <cstdint>
-#include <cstdlib>
 #include <string>
 
 namespace {
 
 using namespace brindlex;
-
-void Demand(bool holds) {
-    if (!holds) {
-        std::abort();
-    }
-}
 
 void ReadAny(DegreeReader& reader, const std::string& text) {
     try {

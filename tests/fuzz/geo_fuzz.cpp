@@ -1,12 +1,10 @@
 // The drawing board with arbitrary drawing files: the first line of the input is what to do with the drawing
 // afterwards, a letter each; the rest is the file. Whatever it holds, no handler lets a fault out, nothing drawn is
 // infinite, and what is saved comes back.
-#include "app/forms.h"
 #include "formfuzz.h"
-#include "frame/program.h"
+
 #include "geometry/form17.h"
 #include "geometry/form18.h"
-#include "headless/headlessruntime.h"
 
 #include <algorithm>
 #include <cmath>
@@ -91,11 +89,10 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     static const ScratchFolder scratch;
     const std::string_view input(reinterpret_cast<const char*>(data), std::min(size, LongestFile));
     const std::size_t end = std::min(input.find('\n'), input.size());
-    const Folder folder(scratch.Path());
-    folder.Rewrite("a.geo", input.substr(std::min(end + 1, input.size())), Durability::Step);
+    std::ofstream(scratch.Path() / "a.geo", std::ios::binary) << input.substr(std::min(end + 1, input.size()));
     DrivenRun run;
     HeadlessRuntime runtime(run, {1024, 768});
-    Program program(runtime, folder);
+    Program program(runtime, Folder(scratch.Path()));
     RegisterForms(program);
     auto& form = dynamic_cast<Form17&>(program.Get("Form17"));
     form.Show();

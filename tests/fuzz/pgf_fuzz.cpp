@@ -1,27 +1,20 @@
 // Polygons with arbitrary documents: the first line of the input is what to do with the document afterwards, a letter
 // each; the rest is the document. Whatever it holds, no handler lets a fault out, the options go with the number of
 // sides, what is drawn is finite, and what is saved comes back.
-#include "app/forms.h"
 #include "formfuzz.h"
-#include "frame/program.h"
-#include "headless/headlessruntime.h"
 #include "polygon/form16.h"
 
-#include <algorithm>
 #include <cmath>
 #include <cstddef>
 #include <cstdint>
 #include <iterator>
 #include <string>
-#include <string_view>
 #include <vector>
 
 namespace {
 
 using namespace brindlex;
 using polygon::Form16;
-
-constexpr std::size_t MostActs = 8;
 
 int FigureSides(const Form16& form) {
     int lines = 0;
@@ -103,22 +96,5 @@ void Act(Form16& form, DrivenRun& run, char letter) {
 }  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-    static const ScratchFolder scratch;
-    const std::string input(data, data + size);
-    const std::size_t end = std::min(input.find('\n'), input.size());
-    const Folder folder(scratch.Path());
-    folder.Rewrite("input.pgf", end < input.size() ? std::string_view(input).substr(end + 1) : std::string_view(),
-                   Durability::Step);
-    DrivenRun run;
-    HeadlessRuntime runtime(run, {1024, 768});
-    Program program(runtime, folder);
-    RegisterForms(program);
-    auto& form = dynamic_cast<Form16&>(program.Get("Form16"));
-    form.Show();
-    Open(form, run, "input.pgf");
-    CheckForm(form, run);
-    for (const char letter : input.substr(0, std::min(end, MostActs))) {
-        Act(form, run, letter);
-    }
-    return 0;
+    return RunDocument<Form16>({"Form16", "input.pgf", Open, CheckForm, Act}, data, size);
 }

@@ -44,20 +44,6 @@ std::string CaseOf(const std::string& line) {
     return isPlace ? std::string(righttri::Cases()[static_cast<std::size_t>(line[0] - '1')].Name) : line;
 }
 
-void CheckSolver(const Lines& lines) {
-    righttri::Entries entries{lines[1], lines[2]};
-    Guarded([&] {
-        const auto solution = righttri::Solve(CaseOf(lines[0]), entries, std::numbers::pi / 180);
-        if (solution.Refused != righttri::Refusal::None) {
-            return;
-        }
-        const righttri::Triangle& found = solution.Found;
-        for (const double value : {found.SideA, found.SideB, found.SideC, found.AngleB, found.AngleC}) {
-            Demand(std::isfinite(value));
-        }
-    });
-}
-
 void ChooseItems(Form1& form, const std::string& letters) {
     const std::array<MenuItem*, 7> items = {
         &form.DIDMS, &form.ShapeR, &form.TextOn, &form.Inches2Millimeters, &form.Millimeters2Inches,
@@ -88,8 +74,6 @@ void CheckShown(const Form1& form, const Lines& lines) {
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     const Lines lines = LinesOf(std::string(data, data + size));
-    CheckSolver(lines);
-
     static const ScratchFolder scratch;
     DrivenRun run;
     HeadlessRuntime runtime(run, {1024, 768});

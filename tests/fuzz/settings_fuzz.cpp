@@ -1,17 +1,18 @@
-// Settings files and documents of any bytes: the readers give texts within their limits and never throw but as told,
-// and reading changes no file.
-#include "formfuzz.h"
+// Settings files and documents of any bytes: the readers give texts within their limits and the very lines of the file,
+// they never throw, and reading changes no file.
+#include "readfuzz.h"
 
 #include "frame/textfile.h"
 #include "services/rounding.h"
 #include "services/settings.h"
 
+#include <sys/mman.h>
+#include <unistd.h>
+
+#include <algorithm>
 #include <array>
 #include <cstddef>
 #include <cstdint>
-#include <filesystem>
-#include <fstream>
-#include <iterator>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -23,20 +24,38 @@ using namespace brindlex;
 constexpr std::array<std::string_view, 4> Keys = {"DMS=", "Shape=", "Text=", "Rounding="};
 constexpr std::size_t DocumentLines = 7;
 
-std::string Content(const std::filesystem::path& path) {
-    std::ifstream stream(path, std::ios::binary);
-    return {std::istreambuf_iterator<char>(stream), {}};
-}
+/// A file without a name on any disk, which is written anew for every run.
+class MemoryFile {
+public:
+    MemoryFile() : descriptor_(::memfd_create("fuzz", 0)) { Demand(descriptor_ >= 0); }
+    ~MemoryFile() { ::close(descriptor_); }
+    MemoryFile(const MemoryFile&) = delete;
+    MemoryFile& operator=(const MemoryFile&) = delete;
+
+    void Put(const std::uint8_t* data, std::size_t size) const {
+        Demand(::ftruncate(descriptor_, 0) == 0);
+        Demand(::pwrite(descriptor_, data, size, 0) == static_cast<ssize_t>(size));
+    }
+    [[nodiscard]] bool Holds(std::string_view content) const {
+        std::string held(content.size() + 1, '\0');
+        const ssize_t length = ::pread(descriptor_, held.data(), held.size(), 0);
+        return std::string_view(held.data(), static_cast<std::size_t>(length)) == content;
+    }
+    [[nodiscard]] std::string Name() const { return "/proc/self/fd/" + std::to_string(descriptor_); }
+
+private:
+    int descriptor_;
+};
 
 }  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-    static const ScratchFolder scratch;
-    static const Folder folder(scratch.Path());
-    const std::string content(data, data + size);
-    std::ofstream(scratch.Path() / "any.ini", std::ios::binary) << content;
+    static const MemoryFile file;
+    static const std::string name = file.Name();
+    static const Folder folder("/");
+    file.Put(data, size);
 
-    const std::vector<std::string> values = ReadSettings(folder, "any.ini", Keys);
+    const std::vector<std::string> values = ReadSettings(folder, name, Keys);
     Demand(values.size() == Keys.size());
     for (std::size_t i = 0; i + 1 < values.size(); ++i) {
         const std::string flag = AcceptedFlag(values[i], "-1");
@@ -46,15 +65,16 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     Demand(digits.size() <= 2 && !digits.empty());
     Demand(digits >= "1" && (digits <= "15" || digits == "4"));
 
-    const std::vector<std::string> lines = ReadDocument(folder, "any.ini", DocumentLines);
+    const std::vector<std::string> lines = ReadDocument(folder, name, DocumentLines);
     Demand(lines.size() <= DocumentLines);
     for (const std::string& line : lines) {
         Demand(!line.empty() && line.find_first_of("\r\n") == std::string::npos);
     }
-    Demand(Content(scratch.Path() / "any.ini") == content);
+    Demand(file.Holds(TextOf(data, size)));
 
-    // What was read can be written and read again.
-    folder.RewriteLines("again.ini", lines, Durability::Step);
-    Demand(ReadDocument(folder, "again.ini", DocumentLines) == lines);
+    // The lines of what the reader reads, parted a second way.
+    std::vector<std::string> expected = LinesOf(TextOf(data, size), DocumentLines);
+    expected.erase(std::find(expected.begin(), expected.end(), ""), expected.end());
+    Demand(lines == expected);
     return 0;
 }

@@ -1,15 +1,9 @@
 // Sine Plates with arbitrary documents: the first line of the input is what to do with the document afterwards, a
 // letter each; the rest is the document. Whatever it holds, no handler lets a fault out, one type is set, results stand
 // with their unit only, and what is saved comes back.
-#include "app/forms.h"
 #include "formfuzz.h"
-#include "frame/program.h"
-#include "headless/headlessruntime.h"
-#include "services/minutesdialog.h"
-#include "services/rounddialog.h"
 #include "sineplate/form12.h"
 
-#include <algorithm>
 #include <cstddef>
 #include <cstdint>
 #include <iterator>
@@ -22,7 +16,6 @@ namespace {
 using namespace brindlex;
 using sineplate::Form12;
 
-constexpr std::size_t MostActs = 8;
 constexpr std::string_view Digits = ".0123456789";
 
 void CheckResult(const TextBox& box) {
@@ -104,32 +97,5 @@ void Act(Form12& form, DrivenRun& run, char letter) {
 }  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-    static const ScratchFolder scratch;
-    const std::string input(data, data + size);
-    const std::size_t end = std::min(input.find('\n'), input.size());
-    const Folder folder(scratch.Path());
-    folder.Rewrite("input.sin", end < input.size() ? std::string_view(input).substr(end + 1) : std::string_view(),
-                   Durability::Step);
-    DrivenRun run;
-    run.ModalLoop = [&](Form& dialog) {
-        if (auto* const round = dynamic_cast<RoundNumbersDialog*>(&dialog)) {
-            round->Combo1.Text(std::to_string(1 + size % 15));
-            round->Command1.Value(true);
-        } else if (auto* const minutes = dynamic_cast<MinutesSecondsDialog*>(&dialog)) {
-            minutes->Text2.Text(std::to_string(size % 70));
-            minutes->Command1.Value(true);
-            minutes->Command2.Value(true);
-        }
-    };
-    HeadlessRuntime runtime(run, {1024, 768});
-    Program program(runtime, folder);
-    RegisterForms(program);
-    auto& form = dynamic_cast<Form12&>(program.Get("Form12"));
-    form.Show();
-    Open(form, run, "input.sin");
-    CheckForm(form, run);
-    for (const char letter : input.substr(0, std::min(end, MostActs))) {
-        Act(form, run, letter);
-    }
-    return 0;
+    return RunDocument<Form12>({"Form12", "input.sin", Open, CheckForm, Act}, data, size);
 }
