@@ -95,4 +95,5 @@ def main():
     harness.finish(f"scripts, {options.runtime}", results.count(True), results.count(False), results.count(None))
 
 
-main()
+if __name__ == "__main__":
+    main()
