@@ -2,6 +2,7 @@
 // line each. Every hole is finite, and the pattern has as many as were asked for.
 #include "readfuzz.h"
 
+#include "boltcircle/document.h"
 #include "boltcircle/report.h"
 #include "boltcircle/solver.h"
 #include "frame/fault.h"
@@ -35,8 +36,9 @@ void Solve(boltcircle::Entries& entries) {
 }  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-    const std::vector<std::string> lines = LinesOf(TextOf(data, size), 6);
-    boltcircle::Entries entries{lines[0], lines[1], lines[2], lines[3], lines[4], lines[5] == "1"};
+    const std::vector<std::string> lines = LinesOf(TextOf(data, size), boltcircle::DocumentLines);
+    boltcircle::Entries entries{lines[0], lines[1], lines[2], lines[3], lines[4]};
+    entries.AnglesOnly = boltcircle::StoredCheck(lines[5]) == 1;
     if (boltcircle::Validate(entries) == boltcircle::Refusal::None) {
         Guarded([&] { Solve(entries); });
     }

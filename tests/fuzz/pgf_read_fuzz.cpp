@@ -4,10 +4,9 @@
 
 #include "frame/fault.h"
 #include "frame/text.h"
+#include "polygon/document.h"
 #include "polygon/solver.h"
-#include "services/documents.h"
 
-#include <algorithm>
 #include <numbers>
 
 namespace {
@@ -25,18 +24,21 @@ void Solve(const PolygonCase& given) {
 }  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-    const std::vector<std::string> lines = LinesOf(TextOf(data, size), 7);
-    PolygonCase given;
-    const bool isRead = Guarded([&] {
-        given.Sides = CInt(std::clamp(Val(lines[0]), double{FewestSides}, double{MostSides}));
-        given.Dimension = Val(lines[6]);
-    });
-    given.Inscribed = BooleanFromWord(lines[1]).value_or(BooleanFromWord(lines[2]) != true);
-    given.FlatsEnabled = BooleanFromWord(lines[3]).value_or(!IsOdd(given.Sides));
-    given.CornerEnabled = BooleanFromWord(lines[5]).value_or(IsOdd(given.Sides));
-    if (!isRead) {
+    const std::vector<std::string> lines = DocumentOf(TextOf(data, size), DocumentLines);
+    const auto document = ReadDocument(lines);
+    if (!document || !IsDocument(lines)) {
         return 0;
     }
+    PolygonCase given;
+    given.Sides = SidesOf(document->Sides);
+    Demand(given.Sides >= 0 && given.Sides <= MostSides + 1);
+    given.Inscribed = document->IsInscribed();
+    const bool isRead = Guarded([&] { given.Dimension = Val(document->Dimension.value_or("")); });
+    if (!isRead || given.Sides < FewestSides || given.Sides > MostSides) {
+        return 0;
+    }
+    given.FlatsEnabled = !IsOdd(given.Sides);
+    given.CornerEnabled = !given.FlatsEnabled;
     for (const auto type : {DimensionType::AcrossFlats, DimensionType::FlatToCorner, DimensionType::OneFlat}) {
         given.Type = type;
         Solve(given);

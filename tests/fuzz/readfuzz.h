@@ -47,4 +47,17 @@ inline std::vector<std::string> LinesOf(std::string_view text, std::size_t most)
     return lines;
 }
 
+/// The lines of a document: as many as it has up to `most`, up to the first empty one.
+inline std::vector<std::string> DocumentOf(std::string_view text, std::size_t most) {
+    std::vector<std::string> lines;
+    while (lines.size() < most && !text.empty()) {
+        const std::string_view line = TakeLine(text);
+        if (line.empty()) {
+            break;
+        }
+        lines.emplace_back(line);
+    }
+    return lines;
+}
+
 }  // namespace brindlex

@@ -5,7 +5,7 @@
 #include "frame/fault.h"
 #include "frame/text.h"
 #include "services/degrees.h"
-#include "services/documents.h"
+#include "sineplate/document.h"
 #include "sineplate/solver.h"
 
 #include <algorithm>
@@ -33,10 +33,12 @@ void Solve(const PlateEntries& entries) {
 }  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-    const std::vector<std::string> lines = LinesOf(TextOf(data, size), 5);
-    const bool regular = BooleanFromWord(lines[1]).value_or(true);
-    const bool compound = BooleanFromWord(lines[2]).value_or(!regular);
-    const PlateEntries entries{lines[3], lines[4], compound, lines[0]};
+    const std::vector<std::string> lines = DocumentOf(TextOf(data, size), DocumentLines);
+    const auto document = ReadDocument(lines);
+    if (!document || !IsDocument(lines)) {
+        return 0;
+    }
+    const PlateEntries entries{document->Angles[0], document->Angles[1], document->IsCompound(), document->Spacing};
     Guarded([&] {
         if (CheckPlate(entries) == PlateRefusal::None) {
             Solve(entries);
