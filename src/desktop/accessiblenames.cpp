@@ -61,16 +61,30 @@ bool NeedsName(const Control& control) {
     return !speaks;
 }
 
+void NameOne(FormWindow& window, const Control& control) {
+    const Peer* const peer = window.PeerOf(control);
+    if (peer == nullptr || peer->Widget() == nullptr || !NeedsName(control)) {
+        return;
+    }
+    const QString name = NameFor(control);
+    if (peer->Widget()->accessibleName() != name) {
+        peer->Widget()->setAccessibleName(name);
+    }
+}
+
 }  // namespace
 
 void NameForReaders(FormWindow& window) {
     for (const Control* const control : window.Surface().Controls()) {
-        const Peer* const peer = window.PeerOf(*control);
-        if (peer != nullptr && peer->Widget() != nullptr && NeedsName(*control)) {
-            const QString name = NameFor(*control);
-            if (peer->Widget()->accessibleName() != name) {
-                peer->Widget()->setAccessibleName(name);
-            }
+        NameOne(window, *control);
+    }
+}
+
+void NameAfterCaption(FormWindow& window, const Control& changed) {
+    for (const Control* const sibling : changed.Container().Children()) {
+        const bool beside = Distance(changed.PlaceInTwips(), sibling->PlaceInTwips()) < NoLabel;
+        if (beside || sibling == &changed) {
+            NameOne(window, *sibling);
         }
     }
 }

@@ -129,7 +129,7 @@ void FormWindow::MirrorControl(Control& control, Aspect aspect) {
     if (Peer* const peer = PeerOf(control)) {
         peer->MirrorAspect(aspect);
         if (aspect == Aspect::Caption) {
-            NameForReaders(*this);
+            NameAfterCaption(*this, control);
         }
     }
 }

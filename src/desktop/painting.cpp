@@ -7,7 +7,6 @@
 #include "desktop/windowcapture.h"
 #include "frame/fontwidths.h"
 
-#include <QFont>
 #include <QFontMetricsF>
 #include <QPainter>
 #include <QPainterPath>
@@ -54,29 +53,10 @@ private:
     double y_;
 };
 
-// The face of the last text on the screen; the next one mostly has the same, and a face is dear to find.
-struct Face {
-    std::string name;
-    double points = 0;
-    bool bold = false;
-    QFont font;
-    double ascent = 0;
-
-    void Take(const std::string& newName, double newPoints, bool newBold) {
-        if (newName != name || newPoints != points || newBold != bold) {
-            name = newName;
-            points = newPoints;
-            bold = newBold;
-            font = ScreenFont(name, points, bold);
-            ascent = QFontMetricsF(font).ascent();
-        }
-    }
-};
-
 // Where a drawing goes.
 struct Target {
     QRectF area;
-    Face face;
+    LaidTexts& texts;
 };
 
 QPen PenOf(const DrawItem& item) {
@@ -198,26 +178,24 @@ void PaintCircle(QPainter& painter, const DrawItem& item, const Across& across, 
 }
 
 // Where the painter is scaled, as on paper, letters are set in twips: pixels would be too coarse for their widths.
-void PaintText(QPainter& painter, const QString& text, const QPointF& corner, const std::string& fontName,
-               double points, bool bold, Face& face) {
+void PaintText(QPainter& painter, const std::string& text, const QPointF& corner, const std::string& fontName,
+               double points, bool bold, LaidTexts& texts) {
     if (painter.worldTransform().type() <= QTransform::TxTranslate) {
-        face.Take(fontName, points, bold);
-        painter.setFont(face.font);
-        painter.drawText(QPointF(corner.x(), corner.y() + face.ascent), text);
+        texts.Paint(painter, corner, text, fontName, points, bold);
         return;
     }
     painter.save();
     painter.translate(corner);
     painter.scale(1 / TwipsPerPixel, 1 / TwipsPerPixel);
     painter.setFont(TwipFont(fontName, points, bold));
-    painter.drawText(QPointF(0, QFontMetricsF(painter.font()).ascent()), text);
+    painter.drawText(QPointF(0, QFontMetricsF(painter.font()).ascent()), FromText(text));
     painter.restore();
 }
 
 void PaintTextItem(QPainter& painter, const DrawItem& item, const Across& across, Target& target) {
     if (const auto corner = across(item.X1, item.Y1)) {
         painter.setPen(ToQt(item.Ink));
-        PaintText(painter, FromText(item.Text), *corner, item.FontName, item.FontSize, item.Bold, target.face);
+        PaintText(painter, item.Text, *corner, item.FontName, item.FontSize, item.Bold, target.texts);
     }
 }
 
@@ -225,7 +203,7 @@ using Paint = void (*)(QPainter&, const DrawItem&, const Across&, Target&);
 // In the order of DrawKind.
 constexpr std::array<Paint, 4> Paints = {PaintLine, PaintBox, PaintCircle, PaintTextItem};
 
-void PaintLabel(QPainter& painter, const SnapshotLabel& label, Face& face) {
+void PaintLabel(QPainter& painter, const SnapshotLabel& label) {
     const QRectF place = PixelRect(label.Where);
     constexpr double Inset = 3;
     painter.save();
@@ -241,17 +219,18 @@ void PaintLabel(QPainter& painter, const SnapshotLabel& label, Face& face) {
     const double lineHeight = TextHeight(label.FontSize) / TwipsPerPixel;
     const double down = label.Framed ? std::max((place.height() - lineHeight) / 2, 0.0) : 0;
     const double right = label.Framed ? Inset : 0;
-    PaintText(painter, FromText(label.Text), place.topLeft() + QPointF(right, down), "Arial", label.FontSize,
-              label.Bold, face);
+    LaidTexts texts;
+    PaintText(painter, label.Text, place.topLeft() + QPointF(right, down), "Arial", label.FontSize, label.Bold, texts);
     painter.restore();
 }
 
 }  // namespace
 
-void PaintDrawing(QPainter& painter, const Drawing& drawing, const QRectF& target) {
+void PaintDrawing(QPainter& painter, const Drawing& drawing, const QRectF& target, LaidTexts& texts) {
     painter.save();
+    texts.Begin();
     painter.setClipRect(target, Qt::IntersectClip);
-    Target to{target, {}};
+    Target to{target, texts};
     for (const DrawItem& item : drawing.Items()) {
         if (item.Scale.Width != 0 && item.Scale.Height != 0) {
             Paints[static_cast<std::size_t>(item.Kind)](painter, item, Across(item.Scale, target), to);
@@ -275,10 +254,10 @@ void PaintSnapshot(QPainter& painter, const Snapshot& picture, const QRectF& tar
     if (target.size() != own.size()) {
         painter.scale(target.width() / own.width(), target.height() / own.height());
     }
-    PaintDrawing(painter, *picture.Drawn, own);
-    Face face;
+    LaidTexts texts;
+    PaintDrawing(painter, *picture.Drawn, own, texts);
     for (const SnapshotLabel& label : picture.Labels) {
-        PaintLabel(painter, label, face);
+        PaintLabel(painter, label);
     }
     painter.restore();
 }

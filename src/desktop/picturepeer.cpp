@@ -21,6 +21,7 @@ PictureArea::PictureArea(QWidget* parent, const FormWindow& window, const Pictur
 }
 
 void PictureArea::paintEvent(QPaintEvent* /*event*/) {
+    stale_ = false;
     QPainter painter(this);
     painter.fillRect(rect(), Qt::white);
     if (!window_.Released()) {
@@ -28,15 +29,32 @@ void PictureArea::paintEvent(QPaintEvent* /*event*/) {
             const Snapshot& behind = picture_.Picture();
             PaintSnapshot(painter, behind, QRectF(0, 0, behind.Width / TwipsPerPixel, behind.Height / TwipsPerPixel));
         }
-        PaintDrawing(painter, picture_.Drawn(), QRectF(rect()));
+        PaintDrawing(painter, picture_.Drawn(), QRectF(rect()), texts_);
     }
-    painter.setRenderHint(QPainter::Antialiasing, false);
-    painter.setPen(QColor(BorderGrey, BorderGrey, BorderGrey));
-    painter.drawRect(rect().adjusted(0, 0, -1, -1));
+    PaintBorder(painter);
+}
+
+// Four fills: a drawn rectangle of one pixel costs as much as all circles of a full drawing board.
+void PictureArea::PaintBorder(QPainter& painter) const {
+    const QColor grey(BorderGrey, BorderGrey, BorderGrey);
+    painter.fillRect(0, 0, width(), 1, grey);
+    painter.fillRect(0, height() - 1, width(), 1, grey);
+    painter.fillRect(0, 0, 1, height(), grey);
+    painter.fillRect(width() - 1, 0, 1, height(), grey);
+}
+
+// A pointer move changes the drawing a hundred times before it is painted once, so only the first time counts. What
+// stands over the picture, were it by a single pixel, need not be painted with it.
+void PictureArea::DrawingChanged() {
+    if (!stale_) {
+        stale_ = true;
+        update(visibleRegion());
+    }
 }
 
 PicturePeer::PicturePeer(FormWindow& window, PictureBox& picture)
-    : Peer(window, picture, new PictureArea(window.Inside(picture.Container()), window, picture)) {
+    : Peer(window, picture, new PictureArea(window.Inside(picture.Container()), window, picture)),
+      area_(static_cast<PictureArea*>(Widget())) {
 }
 
 void PicturePeer::MirrorOwn(Aspect aspect) {
@@ -45,7 +63,7 @@ void PicturePeer::MirrorOwn(Aspect aspect) {
         Widget()->setPalette(PaperPalette(Window().palette()));
     }
     if (aspect == Aspect::Drawing) {
-        Widget()->update();
+        area_->DrawingChanged();
     }
 }
 

@@ -1,6 +1,7 @@
 // The peer of a picture box, and its widget.
 #pragma once
 
+#include "desktop/laidtexts.h"
 #include "desktop/peer.h"
 #include "frame/picturebox.h"
 
@@ -13,12 +14,19 @@ class PictureArea : public QWidget {
 public:
     PictureArea(QWidget* parent, const FormWindow& window, const PictureBox& picture);
 
+    /// To be painted again, once, however often it changes before that.
+    void DrawingChanged();
+
 protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
+    void PaintBorder(QPainter& painter) const;
+
     const FormWindow& window_;
     const PictureBox& picture_;
+    LaidTexts texts_;
+    bool stale_ = false;
 };
 
 class PicturePeer : public Peer {
@@ -28,6 +36,9 @@ public:
 protected:
     void MirrorOwn(Aspect aspect) override;
     [[nodiscard]] bool RelaysMouse() const override { return true; }
+
+private:
+    PictureArea* area_;
 };
 
 }  // namespace brindlex

@@ -16,6 +16,10 @@ ScrollBarPeer::ScrollBarPeer(FormWindow& window, ScrollBar& bar)
       bar_(bar),
       shown_(static_cast<QScrollBar*>(Widget())) {
     shown_->setFocusPolicy(Qt::StrongFocus);
+    // The style fills a scroll bar to its edges, though it says otherwise: so it is not painted with every change of a
+    // picture whose edge it covers.
+    shown_->ensurePolished();
+    shown_->setAttribute(Qt::WA_OpaquePaintEvent);
     shown_->setContextMenuPolicy(Qt::PreventContextMenu);
     connect(shown_, &QScrollBar::valueChanged, this, [this](int value) {
         Window().ByPerson([&] {

@@ -3,9 +3,22 @@
 
 #include "frame/textfile.h"
 
+#include <algorithm>
+
 namespace brindlex {
 
+namespace {
+
+constexpr unsigned char FirstBeyondAscii = 0x80;
+
+}  // namespace
+
 QString FromText(std::string_view text) {
+    // Most texts, the numbers of a drawing above all, are plain ASCII.
+    if (std::all_of(text.begin(), text.end(),
+                    [](char c) { return static_cast<unsigned char>(c) < FirstBeyondAscii; })) {
+        return QString::fromLatin1(text.data(), static_cast<qsizetype>(text.size()));
+    }
     return QString::fromStdString(Utf8FromText(text));
 }
 
