@@ -74,8 +74,7 @@ void NineteenCasesChecked(benchmark::State& state) {
     Triangle triangle;
     for (auto _ : state) {
         for (const Case& row : oblique::Cases()) {
-            const auto entries = EntriesOf(row);
-            oblique::SolveOblique(triangle, row.Entry, entries[0], entries[1], entries[2], row.ObtuseFirst);
+            oblique::SolveOblique(triangle, row, EntriesOf(row), row.ObtuseFirst);
             benchmark::DoNotOptimize(triangle);
         }
     }

@@ -75,7 +75,7 @@ private:
     [[nodiscard]] Checked SineOf(Element angle) const { return Sin(Value(angle) * Rad); }
 
     void FindByAngleSum(Element angle, Element other1, Element other2);
-    void FindBySines(Element side, Element knownSide);
+    void FindBySines(Element side, Element knownSide, Checked knownSine);
     void FindByCosines(Element angle);
     [[nodiscard]] Checked Arcsine(Checked x) const;
     [[nodiscard]] Checked Arccosine(Checked y) const;
@@ -93,8 +93,8 @@ void Solver::FindByAngleSum(Element angle, Element other1, Element other2) {
 }
 
 /// Law of sines: s = k·sin S / sin K.
-void Solver::FindBySines(Element side, Element knownSide) {
-    Set(side, Value(knownSide) * SineOf(Opposite(side)) / SineOf(Opposite(knownSide)));
+void Solver::FindBySines(Element side, Element knownSide, Checked knownSine) {
+    Set(side, Value(knownSide) * SineOf(Opposite(side)) / knownSine);
 }
 
 /// Law of cosines from three sides: cos W = (u·u + v·v - w·w) / (2·u·v).
@@ -126,19 +126,21 @@ Checked Solver::Arccosine(Checked y) const {
 
 void Solver::TwoAngles() {
     FindByAngleSum(row_.Found[0], row_.Given[0], row_.Given[1]);
-    FindBySines(row_.Found[1], row_.Given[2]);
-    FindBySines(row_.Found[2], row_.Given[2]);
+    const Checked knownSine = SineOf(Opposite(row_.Given[2]));
+    FindBySines(row_.Found[1], row_.Given[2], knownSine);
+    FindBySines(row_.Found[2], row_.Given[2], knownSine);
 }
 
 void Solver::Ambiguous() {
     const Element given = row_.Given[0];
     const Element wanted = row_.Found[0];
-    const Checked x = Value(Opposite(wanted)) * SineOf(given) / Value(Opposite(given));
+    const Checked givenSine = SineOf(given);
+    const Checked x = Value(Opposite(wanted)) * givenSine / Value(Opposite(given));
     const Checked angle = Arcsine(x);
     // Whether the second triangle exists is left to the test for positive values: intended.
     Set(wanted, secondSolution_ ? HalfTurn - angle : angle);
     FindByAngleSum(row_.Found[1], given, wanted);
-    FindBySines(row_.Found[2], Opposite(given));
+    FindBySines(row_.Found[2], Opposite(given), givenSine);
 }
 
 void Solver::IncludedAngle() {
@@ -246,11 +248,15 @@ void SolveOblique(Triangle& triangle, std::string_view entry, double first, doub
     if (row == nullptr) {
         return;
     }
-    triangle.Working(row->Given[0]) = first;
-    triangle.Working(row->Given[1]) = second;
-    triangle.Working(row->Given[2]) = third;
-    Solver solver(triangle, *row, SecondSolution);
-    (solver.*Ways[static_cast<std::size_t>(row->Kind)])();
+    SolveOblique(triangle, *row, {first, second, third}, SecondSolution);
+}
+
+void SolveOblique(Triangle& triangle, const Case& row, const std::array<double, 3>& given, bool SecondSolution) {
+    for (std::size_t entry = 0; entry < given.size(); ++entry) {
+        triangle.Working(row.Given[entry]) = given[entry];
+    }
+    Solver solver(triangle, row, SecondSolution);
+    (solver.*Ways[static_cast<std::size_t>(row.Kind)])();
 }
 
 bool AcceptOblique(Triangle& triangle) {

@@ -89,6 +89,8 @@ enum class Refusal {
 /// Fault; the working values then hold what was reached.
 void SolveOblique(Triangle& triangle, std::string_view entry, double first, double second, double third,
                   bool SecondSolution);
+/// The same for a case of the table.
+void SolveOblique(Triangle& triangle, const Case& row, const std::array<double, 3>& given, bool SecondSolution);
 
 /// Whether all six working values are above 0; if so they become the kept values.
 [[nodiscard]] bool AcceptOblique(Triangle& triangle);
