@@ -34,7 +34,7 @@ void PictureArea::paintEvent(QPaintEvent* /*event*/) {
     PaintBorder(painter);
 }
 
-// Four fills: a drawn rectangle of one pixel costs as much as all circles of a full drawing board.
+// Four fills: a drawn rectangle of one pixel costs half as much as all circles of a full drawing board.
 void PictureArea::PaintBorder(QPainter& painter) const {
     const QColor grey(BorderGrey, BorderGrey, BorderGrey);
     painter.fillRect(0, 0, width(), 1, grey);
