@@ -7,6 +7,7 @@
 
 #include <algorithm>
 #include <array>
+#include <optional>
 #include <string_view>
 #include <utility>
 
@@ -26,6 +27,9 @@ public:
     void dxfReal(int code, double value) const override { Put(code, ShortestText(value)); }
     void dxfInt(int code, int value) const override { Put(code, std::to_string(value)); }
     void dxfHex(int code, int value) const override {
+        if (code == PointerCode && pointer_) {
+            value = *pointer_;
+        }
         constexpr std::string_view Digits = "0123456789ABCDEF";
         constexpr unsigned Base = 16;
         std::string text;
@@ -39,6 +43,9 @@ public:
     void dxfString(int code, const char* value) const override { Put(code, value); }
     void dxfString(int code, const std::string& value) const override { Put(code, value); }
 
+    /// What stands from now on where an object points to another; nothing: what the library says.
+    void PointTo(std::optional<int> handle) { pointer_ = handle; }
+
     [[nodiscard]] std::string Take() { return std::move(text_); }
 
 private:
@@ -49,6 +56,9 @@ private:
         text_ += '\n';
     }
 
+    static constexpr int PointerCode = 340;
+
+    std::optional<int> pointer_;
     mutable std::string text_;  // the library's functions of writing are all const
 };
 
@@ -116,6 +126,7 @@ void PutTables(DL_Dxf& library, MemoryWriter& file, const Sheet& sheet) {
     PutLayers(library, file, sheet);
     constexpr double TextHeight = 2.5;
     file.tableStyle(1);
+    const auto style = static_cast<int>(file.getNextHandle());
     library.writeStyle(file, DL_StyleData("standard", 0, TextHeight, 1.0, 0.0, 0, TextHeight, "txt", ""));
     file.tableEnd();
     library.writeView(file);
@@ -123,7 +134,10 @@ void PutTables(DL_Dxf& library, MemoryWriter& file, const Sheet& sheet) {
     file.tableAppid(1);
     library.writeAppid(file, "ACAD");
     file.tableEnd();
+    // The library leaves the style that dimensions point to as the memory happens to be.
+    file.PointTo(style);
     library.writeDimStyle(file, TextHeight, 1, 1, 1, TextHeight);
+    file.PointTo(std::nullopt);
     library.writeBlockRecord(file);
     file.tableEnd();
     file.sectionEnd();

@@ -19,12 +19,6 @@ constexpr std::size_t LongestText = 330;
 
 using Buffer = std::array<char, LongestText>;
 
-void RefuseUnlessFinite(double number) {
-    if (!std::isfinite(number)) {
-        throw Failure(Exit::BadInput, "a value is too large to be worked with");
-    }
-}
-
 std::string_view Trimmed(std::string_view text) {
     const auto first = text.find_first_not_of(' ');
     return first == std::string_view::npos ? std::string_view{}
@@ -32,6 +26,12 @@ std::string_view Trimmed(std::string_view text) {
 }
 
 }  // namespace
+
+void RefuseUnlessFinite(double number) {
+    if (!std::isfinite(number)) {
+        throw Failure(Exit::BadInput, "a value is too large to be worked with");
+    }
+}
 
 std::string ShortestText(double number) {
     RefuseUnlessFinite(number);

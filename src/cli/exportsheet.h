@@ -56,7 +56,7 @@ struct LinePair {
 /// The pairs of lines as the board lists them, those that cross first. Throws Failure (BadInput) for more than
 /// MostPairedLines lines.
 [[nodiscard]] std::vector<LinePair> PairsOf(const std::vector<std::string>& records);
-inline constexpr std::size_t MostPairedLines = 1000;
+inline constexpr std::size_t MostPairedLines = 500;
 
 /// The pattern of a bolt circle document: center X, center Y, diameter, number of holes, start angle, and what is
 /// behind. Throws Failure (BadInput): an entry that is missing or no number, a diameter that is not above 0, no holes

@@ -5,8 +5,11 @@
 
 #include <nlohmann/json.hpp>
 
+#include <cmath>
+#include <cstdint>
 #include <initializer_list>
 #include <string_view>
+#include <utility>
 
 namespace brindlex::cli {
 
@@ -40,9 +43,14 @@ std::string_view MeetName(const LinePair& pair) {
     return pair.Cross ? "crossing" : "extended";
 }
 
-/// A number as JSON takes it; refuses what is not finite, which would read null.
+/// A number as JSON takes it: whole ones without a point. Refuses what is not finite, which would read null.
 Json Finite(double number) {
-    return Json::parse(ShortestText(number));
+    constexpr double LargestWhole = 1e15;
+    RefuseUnlessFinite(number);
+    if (number == std::floor(number) && std::fabs(number) < LargestWhole) {
+        return static_cast<std::int64_t>(number);
+    }
+    return number;
 }
 
 Json EntityJson(const Shape& shape) {
@@ -100,33 +108,38 @@ std::string HolesCsv(const HolePattern& pattern, Unit unit) {
 }
 
 std::string DrawingJson(const Sheet& sheet, const std::vector<LinePair>& pairs) {
-    Json drawing{{"unit", UnitWord(sheet.Measure)}, {"entities", Json::array()}, {"pairs", Json::array()}};
+    Json entities = Json::array();
     for (const Shape& shape : sheet.Shapes) {
-        drawing["entities"].push_back(EntityJson(shape));
+        entities.push_back(EntityJson(shape));
     }
+    Json items = Json::array();
     for (const LinePair& pair : pairs) {
-        drawing["pairs"].push_back({{"first", pair.First},
-                                    {"second", pair.Second},
-                                    {"meet", MeetName(pair)},
-                                    {"x", Finite(pair.Crossing.X)},
-                                    {"y", Finite(pair.Crossing.Y)},
-                                    {"angle", Finite(pair.Angle)}});
+        items.push_back({{"first", pair.First},
+                         {"second", pair.Second},
+                         {"meet", MeetName(pair)},
+                         {"x", Finite(pair.Crossing.X)},
+                         {"y", Finite(pair.Crossing.Y)},
+                         {"angle", Finite(pair.Angle)}});
     }
+    Json drawing{{"unit", UnitWord(sheet.Measure)}};
+    drawing["entities"] = std::move(entities);
+    drawing["pairs"] = std::move(items);
     return drawing.dump(Indent) + "\n";
 }
 
 std::string HolesJson(const HolePattern& pattern, Unit unit) {
+    Json places = Json::array();
+    for (const Hole& hole : pattern.Holes) {
+        places.push_back({{"hole", hole.Number},
+                          {"x", Finite(hole.Place.X)},
+                          {"y", Finite(hole.Place.Y)},
+                          {"angle", Finite(hole.Angle)}});
+    }
     Json holes{{"unit", UnitWord(unit)},
                {"center", {{"x", Finite(pattern.Centre.X)}, {"y", Finite(pattern.Centre.Y)}}},
                {"diameter", Finite(pattern.Diameter)},
-               {"startAngle", Finite(pattern.StartAngle)},
-               {"holes", Json::array()}};
-    for (const Hole& hole : pattern.Holes) {
-        holes["holes"].push_back({{"hole", hole.Number},
-                                  {"x", Finite(hole.Place.X)},
-                                  {"y", Finite(hole.Place.Y)},
-                                  {"angle", Finite(hole.Angle)}});
-    }
+               {"startAngle", Finite(pattern.StartAngle)}};
+    holes["holes"] = std::move(places);
     return holes.dump(Indent) + "\n";
 }
 

@@ -1,5 +1,6 @@
 """What the export tests share: documents made by hand, runs of the program, places of holes worked out anew."""
 
+import json
 import math
 import os
 import pathlib
@@ -70,11 +71,12 @@ class Bench:
         self.write(name, [*map(str, texts), " 0 "])
 
     def play(self, *lines):
-        """A session of the desktop program."""
+        """A session of the desktop program; what its show commands answered."""
         script = self.path("session.script")
         script.write_text("\n".join(lines) + "\n", encoding="utf-8")
         done = self.run("--dir", self.folder, script, program=self.drive)
         expect(done.returncode == 0, "the session failed:", done.stdout, done.stderr)
+        return [json.loads(line[3:]) for line in done.stdout.decode().splitlines() if line.startswith("ok ")]
 
 
 def record(number, kind, *values):

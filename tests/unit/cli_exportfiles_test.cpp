@@ -35,6 +35,16 @@ TEST(CliExportDxf, ShapesStandOnTheirLayers) {
     EXPECT_TRUE(text.ends_with("  0\nEOF\n") || text.ends_with("\n0\nEOF\n"));
 }
 
+TEST(CliExportDxf, TheSameSheetGivesTheSameBytes) {
+    const std::string text = DxfText(SmallSheet(Unit::Inch));
+    for (int i = 0; i < 10; ++i) {
+        EXPECT_EQ(DxfText(SmallSheet(Unit::Inch)), text);
+    }
+    // Dimensions are written in the style that stands before them.
+    const auto behind = [&](const std::string& words) { return text.substr(text.find(words) + words.size(), 3); };
+    EXPECT_EQ(behind("0\nSTYLE\n5\n"), behind("284\n8\n340\n"));
+}
+
 TEST(CliExportDxf, LargeAndSmallNumbersKeepAllDigits) {
     Sheet sheet{Unit::Inch, {{Layer::Points, 1, {geometry::Kind::Point, 1, {1.2345678901234567e300, 1e-300, 0, 0}}}}};
     EXPECT_TRUE(Contains(DxfText(sheet), "10\n1.2345678901234567e+300\n20\n1e-300\n"));

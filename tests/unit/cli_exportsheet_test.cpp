@@ -81,8 +81,8 @@ TEST(CliExportSheet, ManyLinesArePairedAndTooManyRefused) {
     ASSERT_EQ(pairs.size(), 250U);
     EXPECT_EQ(pairs.back().Second, 251);
     EXPECT_EQ(pairs.back().Crossing.X, 250);
-    EXPECT_EQ(ExportFailureOf([] { (void)PairsOf(Lines(1001, LineLine(1, "0", "0", "1", "0"))); }),
-              "3 the drawing has more than 1000 lines");
+    EXPECT_EQ(ExportFailureOf([] { (void)PairsOf(Lines(501, LineLine(1, "0", "0", "1", "0"))); }),
+              "3 the drawing has more than 500 lines");
 }
 
 TEST(CliExportSheet, HolesAreNotRounded) {
