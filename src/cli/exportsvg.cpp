@@ -172,7 +172,10 @@ void Writer::Number(const Shape& shape) {
 
 /// In millimetres whatever the unit: letters that are a tenth of a unit high come out crooked in some viewers.
 void Writer::Numbers() {
-    text_ += "<g id=\"NUMBERS\" fill=\"black\" font-family=\"sans-serif\"";
+    text_ += "<g";
+    Attribute("id", "NUMBERS");
+    Attribute("fill", "black");
+    Attribute("font-family", "sans-serif");
     Attribute("font-size", TextHeight);
     if (perMillimeter_ != 1) {
         Attribute("transform", "scale(" + ShortestText(perMillimeter_) + ")");
