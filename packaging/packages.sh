@@ -41,4 +41,7 @@ program_packages=(cmake g++ ninja-build qt6-base-dev libgl1-mesa-dev nlohmann-js
 # A screen for a machine that has none.
 screen_packages=(xvfb xauth)
 # What the tests need besides.
-test_packages=(poppler-utils python3 libgtest-dev libbenchmark-dev clang clang-format clang-tidy libclang-rt-14-dev)
+test_packages=(poppler-utils python3 libgtest-dev libbenchmark-dev clang clang-format clang-tidy libclang-rt-14-dev
+    python3-ezdxf librsvg2-bin)
+# Runs the drilling programs of the tests. Large, so that the tests do without where it can't be installed.
+interpreter_packages=(linuxcnc-uspace)

@@ -4,6 +4,7 @@
 #include "cli/bolt.h"
 #include "cli/data.h"
 #include "cli/documents.h"
+#include "cli/exportcommand.h"
 #include "cli/plates.h"
 #include "cli/speeds.h"
 #include "cli/triangles.h"
@@ -13,8 +14,8 @@
 namespace brindlex::cli {
 
 std::span<const Command> Commands() {
-    static constexpr std::array Table{RightCommand,  ObliqueCommand, BoltCommand,   SineCommand, PolygonCommand,
-                                      SpeedsCommand, SolveCommand,   ReportCommand, DataCommand};
+    static constexpr std::array Table{RightCommand,  ObliqueCommand, BoltCommand,   SineCommand,   PolygonCommand,
+                                      SpeedsCommand, SolveCommand,   ReportCommand, ExportCommand, DataCommand};
     return Table;
 }
 
