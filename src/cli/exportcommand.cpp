@@ -3,16 +3,16 @@
 
 #include "cli/exportdxf.h"
 #include "cli/exportnc.h"
-#include "cli/exportnumbers.h"
 #include "cli/exportsheet.h"
 #include "cli/exportsvg.h"
 #include "cli/exporttables.h"
 #include "cli/failure.h"
 #include "cli/files.h"
+#include "cli/values.h"
+#include "frame/text.h"
 #include "geometry/store.h"
 
 #include <algorithm>
-#include <cmath>
 #include <filesystem>
 #include <system_error>
 
@@ -40,47 +40,23 @@ std::string EndingOf(const std::string& file) {
     return ending.empty() ? ending : ending.substr(1);
 }
 
-std::optional<double> NumberOption(const Arguments& given, std::string_view option) {
-    const auto text = given.Text(option);
-    if (!text) {
-        return std::nullopt;
-    }
-    const auto number = WholeNumberText(*text);
-    if (!number) {
-        RefuseUsage(std::string(option) + " is no number: " + std::string(*text));
-    }
-    return number;
+std::optional<double> LengthOption(const Arguments& given, std::string_view option, Unit unit) {
+    return given.Has(option) ? std::optional(Val(LengthFrom(given, option, unit, Sign::Any))) : std::nullopt;
 }
 
-std::optional<int> CountOption(const Arguments& given, std::string_view option) {
-    constexpr double Most = 1e6;
-    const auto number = NumberOption(given, option);
-    if (number && !(*number == std::floor(*number) && std::fabs(*number) < Most)) {
-        RefuseUsage(std::string(option) + " is no whole number: " + std::string(*given.Text(option)));
-    }
-    return number ? std::optional(static_cast<int>(*number)) : std::nullopt;
+std::optional<int> CountOption(const Arguments& given, std::string_view option, int most) {
+    return given.Has(option) ? std::optional(CountFrom(given, option, 1, most)) : std::nullopt;
 }
 
-/// What an option must be where it has no default.
-double NeededOption(const Arguments& given, std::string_view option) {
-    const auto number = NumberOption(given, option);
-    if (!number) {
+/// For an option that a drilling program needs.
+void RequireForDrilling(const Arguments& given, std::string_view option) {
+    if (!given.Has(option)) {
         RefuseUsage(std::string(option) + " is missing: a drilling program has no default for it");
     }
-    return *number;
 }
 
 std::optional<Unit> UnitOption(const Arguments& given) {
-    const auto text = given.Text("--unit");
-    if (!text) {
-        return std::nullopt;
-    }
-    for (const Unit unit : {Unit::Inch, Unit::Millimeter}) {
-        if (*text == UnitWord(unit)) {
-            return unit;
-        }
-    }
-    RefuseUsage("--unit is in or mm, not " + std::string(*text));
+    return given.Has("--unit") ? std::optional(DisplayFrom(given).Measure) : std::nullopt;
 }
 
 /// A document, read, and the name by which failures and comments call it.
@@ -107,7 +83,7 @@ std::optional<Unit> NamedUnit(const std::vector<std::string>& lines) {
 Unit UnitOfDrawing(const Source& source) {
     const auto named = NamedUnit(source.Lines);
     if (named && source.Given && *named != *source.Given) {
-        RefuseUsage("--unit is " + std::string(UnitWord(*source.Given)) + ", but the drawing is in " +
+        RefuseUsage("--unit is " + std::string(WordOf(*source.Given)) + ", but the drawing is in " +
                     std::string(UnitPlural(*named)));
     }
     if (!named && !source.Given) {
@@ -147,11 +123,10 @@ Unit UnitOfPattern(const Source& source) {
 }
 
 Sheet PatternSheet(const Source& source, const Arguments& given) {
-    const auto diameter = NumberOption(given, "--hole-diameter");
-    if (diameter && !(*diameter > 0)) {
-        RefuseUsage("--hole-diameter must be above 0, not " + ShortestText(*diameter));
-    }
-    return SheetOf(PatternOf(source.Lines), UnitOfPattern(source), diameter.value_or(0));
+    const Unit unit = UnitOfPattern(source);
+    const double diameter =
+        given.Has("--hole-diameter") ? Val(LengthFrom(given, "--hole-diameter", unit, Sign::Positive)) : 0;
+    return SheetOf(PatternOf(source.Lines), unit, diameter);
 }
 
 std::string PatternAsDxf(const Source& source, const Arguments& given) {
@@ -172,15 +147,18 @@ std::string PatternAsJson(const Source& source, const Arguments&) {
 
 std::string PatternAsNc(const Source& source, const Arguments& given) {
     const Unit unit = UnitOfPattern(source);
+    for (const std::string_view option : {"--safe-height", "--retract", "--depth", "--feed", "--spindle"}) {
+        RequireForDrilling(given, option);
+    }
     Drilling drilling;
-    drilling.SafeHeight = NeededOption(given, "--safe-height");
-    drilling.Retract = NeededOption(given, "--retract");
-    drilling.Depth = NeededOption(given, "--depth");
-    drilling.Feed = NeededOption(given, "--feed");
-    drilling.Spindle = NeededOption(given, "--spindle");
-    drilling.Peck = NumberOption(given, "--peck");
-    drilling.Tool = CountOption(given, "--tool");
-    drilling.Places = CountOption(given, "--places");
+    drilling.SafeHeight = *LengthOption(given, "--safe-height", unit);
+    drilling.Retract = *LengthOption(given, "--retract", unit);
+    drilling.Depth = *LengthOption(given, "--depth", unit);
+    drilling.Feed = Val(NumberFrom(given, "--feed", Sign::Positive));
+    drilling.Spindle = CountFrom(given, "--spindle", 1, FastestSpindle);
+    drilling.Peck = LengthOption(given, "--peck", unit);
+    drilling.Tool = CountOption(given, "--tool", MostTool);
+    drilling.Places = CountOption(given, "--places", MostPlaces);
     return NcText(PatternOf(source.Lines), unit, drilling, fs::path(source.Name).filename().string());
 }
 

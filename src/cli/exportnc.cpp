@@ -20,10 +20,7 @@ using geometry::Unit;
 
 constexpr int PlacesOfInch = 6;
 constexpr int PlacesOfMillimeter = 4;
-constexpr int MostPlaces = 6;
-constexpr int MostTool = 9999;
 constexpr double Farthest = 100000;
-constexpr double FastestSpindle = 1000000;
 constexpr std::size_t LongestComment = 60;
 
 void Require(bool kept, std::string_view rule, double given) {
@@ -50,8 +47,7 @@ void Check(const Drilling& d, int places) {
     Require(safe > 0, "--safe-height must be above the work, that is above 0", d.SafeHeight);
     Require(safe >= retract, "--safe-height must not be below --retract", d.SafeHeight);
     Require(Written(d.Feed, places) > 0, "--feed must be above 0", d.Feed);
-    Require(d.Spindle > 0 && d.Spindle < FastestSpindle && d.Spindle == std::floor(d.Spindle),
-            "--spindle must be a whole number of revolutions above 0", d.Spindle);
+    Require(d.Spindle >= 1 && d.Spindle <= FastestSpindle, "--spindle must be 1 to 999999 revolutions", d.Spindle);
     Require(!d.Peck || Written(*d.Peck, places) > 0, "--peck must be above 0", d.Peck.value_or(0));
     Require(!d.Tool || (*d.Tool >= 1 && *d.Tool <= MostTool), "--tool must be 1 to 9999", d.Tool.value_or(0));
     for (const double value : {d.Depth, d.Retract, d.SafeHeight, d.Feed, d.Peck.value_or(0)}) {
@@ -114,7 +110,7 @@ void Program::Start() {
         Line({"T" + number, "M6"});
         Line({"G43", "H" + number});
     }
-    Line({"S" + std::to_string(static_cast<int>(drilling_.Spindle)), "M3"});
+    Line({"S" + std::to_string(drilling_.Spindle), "M3"});
     Line({"G0", Word("Z", drilling_.SafeHeight)});
 }
 

@@ -9,16 +9,20 @@
 
 namespace brindlex::cli {
 
+inline constexpr int FastestSpindle = 999999;
+inline constexpr int MostTool = 9999;
+inline constexpr int MostPlaces = 6;
+
 /// What a program needs besides the places of the holes. None has a default: a wrong guess could break the tool.
 struct Drilling {
     double SafeHeight = 0;       ///< Z of the ways from hole to hole: not below Retract
     double Retract = 0;          ///< Z where the feed begins: above 0
     double Depth = 0;            ///< Z of the bottom of the holes: below 0
     double Feed = 0;             ///< units a minute, above 0
-    double Spindle = 0;          ///< whole revolutions a minute, above 0
+    int Spindle = 0;             ///< revolutions a minute, 1 to FastestSpindle
     std::optional<double> Peck;  ///< how far the tool goes before it backs out, above 0; without it one plunge
-    std::optional<int> Tool;     ///< with it the program changes to that tool and takes its length, 1 to 9999
-    std::optional<int> Places;   ///< decimals, 1 to 6; else DefaultPlaces
+    std::optional<int> Tool;     ///< with it the program changes to that tool and takes its length, 1 to MostTool
+    std::optional<int> Places;   ///< decimals, 1 to MostPlaces; else DefaultPlaces
 };
 
 /// 4 decimals of a millimetre, 6 of an inch: no coordinate is off by more than 0.00005 mm.

@@ -1,12 +1,14 @@
-// Numbers by std::to_chars and std::from_chars, which round correctly and know no locale.
+// Numbers by std::to_chars, which rounds correctly and knows no locale.
 #include "cli/exportnumbers.h"
 
 #include "cli/failure.h"
+#include "cli/values.h"
+#include "frame/fault.h"
+#include "frame/text.h"
 
 #include <array>
 #include <charconv>
 #include <cmath>
-#include <system_error>
 
 namespace brindlex::cli {
 
@@ -18,12 +20,6 @@ constexpr double SmallestLarge = 1e16;
 constexpr std::size_t LongestText = 330;
 
 using Buffer = std::array<char, LongestText>;
-
-std::string_view Trimmed(std::string_view text) {
-    const auto first = text.find_first_not_of(' ');
-    return first == std::string_view::npos ? std::string_view{}
-                                           : text.substr(first, text.find_last_not_of(' ') - first + 1);
-}
 
 }  // namespace
 
@@ -63,16 +59,12 @@ std::string DecimalText(double number, int places) {
 }
 
 std::optional<double> WholeNumberText(std::string_view text) {
-    text = Trimmed(text);
-    if (text.starts_with('+') && !text.starts_with("+-")) {
-        text.remove_prefix(1);
-    }
-    double number = 0;
-    const auto read = std::from_chars(text.data(), text.data() + text.size(), number);
-    if (read.ec != std::errc() || read.ptr != text.data() + text.size() || !std::isfinite(number)) {
+    const std::string number = Trimmed(text);
+    double value = 0;
+    if (!IsNumber(number) || !Guarded([&] { value = Val(number); })) {
         return std::nullopt;
     }
-    return number;
+    return value;
 }
 
 }  // namespace brindlex::cli

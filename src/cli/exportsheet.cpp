@@ -1,6 +1,8 @@
 // Documents to plain values.
 #include "cli/exportsheet.h"
 
+#include "boltcircle/document.h"
+#include "boltcircle/report.h"
 #include "boltcircle/solver.h"
 #include "cli/exportnumbers.h"
 #include "cli/failure.h"
@@ -85,8 +87,8 @@ double AngleBetween(const Segment& a, const Segment& b) {
     throw Failure(Exit::BadInput, why);
 }
 
-constexpr std::array<const char*, 5> EntryNames{"the center's X", "the center's Y", "the diameter",
-                                                "the number of holes", "the start angle"};
+constexpr std::array<const char*, boltcircle::EntryLines> EntryNames{"the center's X", "the center's Y", "the diameter",
+                                                                     "the number of holes", "the start angle"};
 
 /// The entries, each a number: the calculator reads "1,5" as 1, and on a machine that would be a hole in the wrong
 /// place. Degree text stands in no document, since the calculator replaces it before a document can be saved.
@@ -189,9 +191,8 @@ HolePattern PatternOf(const std::vector<std::string>& lines) {
         Refuse("a value is too large to be worked with");
     }
     HolePattern pattern{{solved.CenterX, solved.CenterY}, solved.Diameter, solved.StartAngle, {}};
-    // With a start angle of 0 the first hole reads as the centre, to which the radius is added.
-    const double first = solved.StartAngle == 0 ? solved.HoleX + solved.Radius : solved.HoleX;
-    pattern.Holes.push_back({1, {first, solved.HoleY}, WithinTurn(solved.StartAngle)});
+    const boltcircle::Hole first = boltcircle::FirstHole(solved);
+    pattern.Holes.push_back({1, {first.X, first.Y}, WithinTurn(first.Angle)});
     for (const boltcircle::Hole& hole : solved.Further) {
         const int number = static_cast<int>(pattern.Holes.size()) + 1;
         pattern.Holes.push_back({number, {hole.X, hole.Y}, WithinTurn(hole.Angle)});
@@ -210,10 +211,6 @@ Sheet SheetOf(const HolePattern& pattern, Unit unit, double holeDiameter) {
                              : MakeShape(Layer::Holes, hole.Number, Kind::Point, {place.X, place.Y, 0, 0}));
     }
     return sheet;
-}
-
-std::string_view UnitWord(Unit unit) {
-    return unit == Unit::Inch ? "in" : "mm";
 }
 
 std::string_view UnitPlural(Unit unit) {

@@ -66,7 +66,6 @@ inline constexpr std::size_t MostPairedLines = 500;
 /// The bolt circle and its holes as shapes: points, or circles where their diameter is above 0.
 [[nodiscard]] Sheet SheetOf(const HolePattern& pattern, geometry::Unit unit, double holeDiameter);
 
-[[nodiscard]] std::string_view UnitWord(geometry::Unit unit);    ///< "in", "mm"
 [[nodiscard]] std::string_view UnitPlural(geometry::Unit unit);  ///< "inches", "millimeters"
 /// "CIRCLES", "LINES", "POINTS", "BOLT_CIRCLE", "HOLES".
 [[nodiscard]] std::string_view LayerName(Layer layer);

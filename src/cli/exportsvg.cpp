@@ -2,6 +2,7 @@
 #include "cli/exportsvg.h"
 
 #include "cli/exportnumbers.h"
+#include "cli/values.h"
 
 #include <algorithm>
 #include <cmath>
@@ -123,7 +124,7 @@ void Writer::Head() {
     const double margin = Margin * perMillimeter_;
     const double width = box.MaxX - box.MinX + 2 * margin;
     const double height = box.MaxY - box.MinY + 2 * margin;
-    const std::string unit(UnitWord(sheet_.Measure));
+    const std::string unit(WordOf(sheet_.Measure));
     text_ += "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<svg xmlns=\"http://www.w3.org/2000/svg\" version=\"1.1\"";
     Attribute("width", ShortestText(width) + unit);
     Attribute("height", ShortestText(height) + unit);

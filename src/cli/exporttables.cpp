@@ -2,6 +2,7 @@
 #include "cli/exporttables.h"
 
 #include "cli/exportnumbers.h"
+#include "cli/values.h"
 
 #include <nlohmann/json.hpp>
 
@@ -81,7 +82,7 @@ std::string EntitiesCsv(const Sheet& sheet) {
         AddRow(table,
                {std::to_string(shape.Number), KindName(record.Shape), ShortestText(first.X), ShortestText(first.Y),
                 line ? ShortestText(record.Ends().End.X) : "", line ? ShortestText(record.Ends().End.Y) : "",
-                circle ? ShortestText(record.Diameter()) : "", UnitWord(sheet.Measure)});
+                circle ? ShortestText(record.Diameter()) : "", WordOf(sheet.Measure)});
     }
     return table;
 }
@@ -92,7 +93,7 @@ std::string PairsCsv(const std::vector<LinePair>& pairs, Unit unit) {
     for (const LinePair& pair : pairs) {
         AddRow(table,
                {std::to_string(pair.First), std::to_string(pair.Second), MeetName(pair), ShortestText(pair.Crossing.X),
-                ShortestText(pair.Crossing.Y), ShortestText(pair.Angle), UnitWord(unit)});
+                ShortestText(pair.Crossing.Y), ShortestText(pair.Angle), WordOf(unit)});
     }
     return table;
 }
@@ -102,7 +103,7 @@ std::string HolesCsv(const HolePattern& pattern, Unit unit) {
     AddRow(table, {"hole", "x", "y", "angle", "unit"});
     for (const Hole& hole : pattern.Holes) {
         AddRow(table, {std::to_string(hole.Number), ShortestText(hole.Place.X), ShortestText(hole.Place.Y),
-                       ShortestText(hole.Angle), UnitWord(unit)});
+                       ShortestText(hole.Angle), WordOf(unit)});
     }
     return table;
 }
@@ -121,7 +122,7 @@ std::string DrawingJson(const Sheet& sheet, const std::vector<LinePair>& pairs) 
                          {"y", Finite(pair.Crossing.Y)},
                          {"angle", Finite(pair.Angle)}});
     }
-    Json drawing{{"unit", UnitWord(sheet.Measure)}};
+    Json drawing{{"unit", WordOf(sheet.Measure)}};
     drawing["entities"] = std::move(entities);
     drawing["pairs"] = std::move(items);
     return drawing.dump(Indent) + "\n";
@@ -135,7 +136,7 @@ std::string HolesJson(const HolePattern& pattern, Unit unit) {
                           {"y", Finite(hole.Place.Y)},
                           {"angle", Finite(hole.Angle)}});
     }
-    Json holes{{"unit", UnitWord(unit)},
+    Json holes{{"unit", WordOf(unit)},
                {"center", {{"x", Finite(pattern.Centre.X)}, {"y", Finite(pattern.Centre.Y)}}},
                {"diameter", Finite(pattern.Diameter)},
                {"startAngle", Finite(pattern.StartAngle)}};

@@ -85,8 +85,6 @@ TEST(CliExportNc, ValuesThatCouldBreakATool) {
         {&Drilling::SafeHeight, 1.5, "2 --safe-height must not be below --retract, not 1.5"},
         {&Drilling::Feed, 0, "2 --feed must be above 0, not 0"},
         {&Drilling::Feed, .00001, "2 --feed must be above 0, not 0.00001"},
-        {&Drilling::Spindle, 0, "2 --spindle must be a whole number of revolutions above 0, not 0"},
-        {&Drilling::Spindle, 99.5, "2 --spindle must be a whole number of revolutions above 0, not 99.5"},
         {&Drilling::SafeHeight, 100000, "2 a length is too large for a machine: it must be below 100000, not 100000"},
         {&Drilling::Depth, -Infinity, "3 a value is too large to be worked with"},
     };
@@ -106,6 +104,9 @@ TEST(CliExportNc, PecksToolsPlacesAndFarHoles) {
     EXPECT_EQ(failure(drilling), "2 --peck must be above 0, not 0");
     drilling.Peck = -3;
     EXPECT_EQ(failure(drilling), "2 --peck must be above 0, not -3");
+    drilling = Sound();
+    drilling.Spindle = 0;
+    EXPECT_EQ(failure(drilling), "2 --spindle must be 1 to 999999 revolutions, not 0");
     drilling = Sound();
     drilling.Tool = 0;
     EXPECT_EQ(failure(drilling), "2 --tool must be 1 to 9999, not 0");
