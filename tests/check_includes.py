@@ -27,7 +27,7 @@ ROOMS = {
 
 # Files that think and show nothing, by the first word of their names.
 THINKING = {"solver", "record", "records", "rules", "store", "calculation", "connect", "crossings", "tangentcircles",
-            "extend", "checked", "fault", "text", "textfile"}
+            "extend", "checked", "fault", "text", "textfile", "answer", "document", "report", "unit", "words"}
 
 # The roots of the form surface in frame: what a thinking file may not reach. All else of the surface includes one.
 SURFACE = {"commondialog", "control", "dispatch", "drawing", "event", "form", "menuitem", "printer", "program",

@@ -19,12 +19,13 @@ sys.path.insert(0, str(HERE.parent))
 import cli_bench  # noqa: E402: these need the path above
 import cli_data
 import cli_documents
+import cli_guide
 import cli_other
 import cli_refusals
 import cli_triangles
 import harness
 
-MODULES = (cli_triangles, cli_other, cli_documents, cli_data, cli_refusals)
+MODULES = (cli_triangles, cli_other, cli_documents, cli_guide, cli_data, cli_refusals)
 
 
 def run(test, options):
