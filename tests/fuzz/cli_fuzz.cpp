@@ -1,0 +1,85 @@
+// Fuzzes brindlex-cli: words and standard input of the calculators, lines of documents. What comes of it is a whole
+// answer or one line on the standard error, never both.
+#include "cli/bolt.h"
+#include "cli/commandline.h"
+#include "cli/failure.h"
+#include "cli/plates.h"
+#include "cli/speeds.h"
+#include "cli/triangles.h"
+
+#include <algorithm>
+#include <array>
+#include <cstddef>
+#include <cstdint>
+#include <cstdio>
+#include <cstdlib>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace brindlex::cli {
+namespace {
+
+void Require(bool holds, const char* invariant) {
+    if (!holds) {
+        std::fprintf(stderr, "broken: %s\n", invariant);
+        std::abort();
+    }
+}
+
+std::vector<std::string> Split(std::string_view text, char mark) {
+    std::vector<std::string> parts;
+    while (!text.empty()) {
+        const std::size_t end = std::min(text.find(mark), text.size());
+        parts.emplace_back(text.substr(0, end));
+        text.remove_prefix(std::min(end + 1, text.size()));
+    }
+    return parts;
+}
+
+/// The first line's words, parted by tabs, with the rest as standard input.
+void RunCommands(const std::vector<std::string>& words, std::string_view input) {
+    static constexpr std::array Table{RightCommand, ObliqueCommand, BoltCommand,
+                                      SineCommand,  PolygonCommand, SpeedsCommand};
+    const Outcome outcome = RunWords(Table, words, [&] { return std::string(input); });
+    Require(outcome.Code == 0 || (outcome.Code >= 2 && outcome.Code <= 5), "a code that scripts know");
+    Require((outcome.Code == 0) == outcome.Err.empty(), "an answer or a reason");
+    Require(outcome.Code == 0 || outcome.Out.empty(), "nothing is printed beside a reason");
+    Require(outcome.Code == 0 || std::count(outcome.Err.begin(), outcome.Err.end(), '\n') == 1, "a reason in one line");
+}
+
+void SolveDocuments(const std::vector<std::string>& lines, const Display& display) {
+    constexpr std::array Solvers{RightFromDocument, ObliqueFromDocument, BoltFromDocument, SinePlateFromDocument,
+                                 PolygonFromDocument};
+    for (const auto solve : Solvers) {
+        try {
+            const Answer answer = solve(lines, display);
+            for (const Style style : {Style::Table, Style::Json, Style::Csv}) {
+                Require(!Written(answer, style).empty(), "an answer in every style");
+            }
+        } catch (const Failure& failure) {
+            Require(failure.Code() == Exit::BadInput || failure.Code() == Exit::NoSolution, "why there is none");
+        }
+    }
+}
+
+}  // namespace
+}  // namespace brindlex::cli
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+    using namespace brindlex::cli;
+    const std::string text(data, data + size);
+    const std::size_t end = std::min(text.find('\n'), text.size());
+    const std::string_view rest = std::string_view(text).substr(std::min(end + 1, text.size()));
+    // The one option, or column, that names a file.
+    if (text.find("data") == std::string::npos) {
+        RunCommands(Split(std::string_view(text).substr(0, end), '\t'), rest);
+    }
+    if (text.find("32767") == std::string::npos) {
+        Display display;
+        display.Places = size == 0 ? 4 : 1 + data[0] % 15;
+        display.Minutes = size > 1 && data[1] % 2 == 0;
+        SolveDocuments(Split(rest, '\n'), display);
+    }
+    return 0;
+}
