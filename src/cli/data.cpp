@@ -218,7 +218,7 @@ public:
             RefuseLine(
                 line, std::to_string(fields.size()) + " fields, where the head has " + std::to_string(columns_.size()));
         }
-        const std::string text = Field(fields, "text");
+        std::string text = Field(fields, "text");
         Record record;
         bool filled = !Field(fields, "unit").empty();
         for (const FieldRow& row : Fields) {
