@@ -129,7 +129,7 @@ bool IsWhole(std::string_view number) {
 /// Takes the number at the head of a text; empty where there is none or one with a sign.
 std::string TakeUnsigned(std::string_view& text) {
     const std::size_t length = text.front() == '-' || text.front() == '+' ? 0 : NumberLength(text);
-    const std::string number(text.substr(0, length));
+    std::string number(text.substr(0, length));
     text = WithoutBlanks(text.substr(length));
     return number;
 }
