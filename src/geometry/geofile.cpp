@@ -27,6 +27,21 @@ bool Taken(const Folder& folder, const std::string& name) {
     return std::filesystem::exists(std::filesystem::symlink_status(folder.PathOf(name), error));
 }
 
+/// Where the disk renames nothing: written under its own name, and gone again unless it is whole.
+bool WrittenPlainly(const Folder& folder, const std::string& name, const std::vector<std::string>& lines) {
+    const bool written = Guarded([&] {
+        OutputFile file = folder.OpenOutput(name);
+        for (const std::string& line : lines) {
+            file.Print(line);
+        }
+        file.Close();
+    });
+    if (!written) {
+        folder.KillIfThere(name);
+    }
+    return written;
+}
+
 }  // namespace
 
 std::optional<std::string> RecoverLeftOver(const Folder& folder) {
@@ -49,7 +64,8 @@ std::optional<std::string> RecoverLeftOver(const Folder& folder) {
     if (saved || Guarded([&] { folder.Name(StoreFile, name); })) {
         return name;
     }
-    return std::nullopt;
+    const bool plainly = records && WrittenPlainly(folder, name, GeoLines(*records, Unit::Inch));
+    return plainly ? std::optional(name) : std::nullopt;
 }
 
 bool GeoFile::Ask(int flags, void (CommonDialog::*show)()) {
