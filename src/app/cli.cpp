@@ -41,12 +41,12 @@ int main(int argc, char** argv) {
     try {
         const auto outcome = brindlex::cli::RunWords(
             brindlex::cli::Commands(), std::vector<std::string>(argv + 1, argv + argc), AllOfStandardInput);
-        Write(outcome.Err, stderr);
         if (!Write(outcome.Out, stdout)) {
             const std::string why = std::strerror(errno);  // NOLINT(concurrency-mt-unsafe): one thread
             Write(CannotWrite + why + "\n", stderr);
             return static_cast<int>(Exit::Disk);
         }
+        Write(outcome.Err, stderr);
         return outcome.Code;
     } catch (const std::exception& failure) {
         Write(std::string("brindlex-cli: ") + failure.what() + "\n", stderr);
