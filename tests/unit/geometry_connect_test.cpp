@@ -447,6 +447,18 @@ TEST(GeometryConnect, ExactTangentsChangeNothingInOrdinaryPositions) {
     }
 }
 
+TEST(GeometryConnect, EveryLineMustTouchBothCircles) {
+    const Lines store{CircleAt(1, {0, 0}, 1), CircleAt(2, {5, 0}, 1)};
+    const auto touches = [&](const Segment& line) {
+        return EveryLineTouches(store, FirstCircle, SecondCircle, {{{0, 1}, {5, 1}}, line});
+    };
+    EXPECT_TRUE(touches({{0, -1}, {5, -1}}));
+    EXPECT_FALSE(touches({{1, 0}, {1, 5}})) << "the first circle alone";
+    EXPECT_FALSE(touches({{4, 0}, {4, 5}})) << "the second circle alone";
+    EXPECT_FALSE(touches({{0, -1.00001}, {5, -1}})) << "by more than a millionth of the radius";
+    EXPECT_TRUE(touches({{0, -1.0000005}, {5, -1.0000005}})) << "by less";
+}
+
 TEST(GeometryConnect, TheKnownMisses) {
     const auto touches = [](Position second, double r2, Tangents mode) {
         const Lines store{CircleAt(1, {0, 0}, 1), CircleAt(2, second, r2)};
