@@ -8,6 +8,7 @@ import shutil
 import subprocess
 import sys
 
+from cli_runner import Missing
 from export_tools import MILLING, SECONDS, expect, expect_near, holes_of
 
 WITHIN = 0.00005  # millimetres
@@ -17,10 +18,6 @@ WORD = re.compile(r"([A-Z])(-?\d+(?:\.\d+)?)")
 INCHES = ["--safe-height", "1", "--retract", ".1", "--depth", "-.5", "--feed", "4.5", "--spindle", "1200"]
 PATTERNS = [(0, 0, 100, 6, 0), (10, -5, 63.5, 17, 12.3456), (-2.71828, 3.14159, 1.41421, 5, 301.7), (1, 2, 8, 1, 45)]
 READER = os.path.join(os.path.dirname(os.path.abspath(__file__)), "export_interpreter.py")
-
-
-class Missing(Exception):
-    """A program that this test wants is not installed."""
 
 
 def lines_of(text):
