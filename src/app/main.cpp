@@ -2,6 +2,7 @@
 #include "app/endsignals.h"
 #include "app/forms.h"
 #include "app/onlyone.h"
+#include "app/picturetales.h"
 #include "app/workplace.h"
 #include "desktop/desktopruntime.h"
 #include "desktop/housestyle.h"
@@ -38,6 +39,7 @@ int RunProgram(int argc, char** argv) {
     QApplication::setQuitOnLastWindowClosed(false);
 
     DesktopRuntime runtime;
+    runtime.TellPicturesBy(TaleOf);
     runtime.StartDialogsIn(QString::fromStdString(folder.string()));
     Program program(runtime, Folder(folder));
     RegisterForms(program);

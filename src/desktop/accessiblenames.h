@@ -3,12 +3,11 @@
 
 namespace brindlex {
 
-class Control;
 class FormWindow;
 
-/// Gives every control that has no caption of its own the name of the label to its left or above it.
+/// Gives every control that has no caption of its own a name: that of the label to its left or above it, of the letter
+/// beside it on a picture, of the options on its line, or of its frame. Says of each picture that its words have
+/// changed.
 void NameForReaders(FormWindow& window);
-/// The same once a caption has changed: only what stands beside it can have another name.
-void NameAfterCaption(FormWindow& window, const Control& changed);
 
 }  // namespace brindlex

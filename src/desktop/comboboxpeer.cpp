@@ -5,6 +5,8 @@
 #include "desktop/formwindow.h"
 #include "desktop/texts.h"
 
+#include <QAbstractItemView>
+#include <QAccessible>
 #include <QKeyEvent>
 
 #include <algorithm>
@@ -35,6 +37,7 @@ ListBox::ListBox(QWidget* parent, FormWindow& window, ComboBox& combo)
 
 void ListBox::showPopup() {
     if (!combo_.Locked() && !window_.Deaf()) {
+        view()->setAccessibleName(accessibleName());
         QComboBox::showPopup();
     }
 }
@@ -121,6 +124,11 @@ void ComboBoxPeer::MirrorChoice() {
         line_->MirrorText();
     } else {
         list_->setPlaceholderText(FromText(combo_.Text()));
+    }
+    if (QAccessible::isActive()) {
+        // Readers call a list together with what is chosen.
+        QAccessibleEvent told(list_, QAccessible::NameChanged);
+        QAccessible::updateAccessibility(&told);
     }
 }
 

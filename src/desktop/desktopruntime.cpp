@@ -54,6 +54,7 @@ void DesktopRuntime::ShowForm(Form& form) {
     FormWindow*& window = windows_[&form];
     if (window == nullptr) {
         window = new FormWindow(form, mirror_, run_ == nullptr ? Hands::Person : Hands::Script);
+        window->TellPicturesBy(teller_);
     }
     std::erase(shown_, &form);
     shown_.push_back(&form);
@@ -71,6 +72,12 @@ void DesktopRuntime::ShowWaiting() {
     window->show();
     window->raise();
     window->activateWindow();
+}
+
+void DesktopRuntime::TellReaders() {
+    for (const auto& [form, window] : windows_) {
+        window->TellReaders();
+    }
 }
 
 void DesktopRuntime::LeaveLoopsOf(const Form& form) {

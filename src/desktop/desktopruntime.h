@@ -7,6 +7,7 @@
 #include "desktop/formwindow.h"
 #include "desktop/mirror.h"
 #include "desktop/paper.h"
+#include "desktop/readers.h"
 #include "frame/drivenrun.h"
 #include "frame/runtime.h"
 
@@ -16,6 +17,7 @@
 #include <map>
 #include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
 class QEventLoop;
@@ -35,6 +37,8 @@ public:
     void PrintInto(const QString& folder) { printFolder_ = folder; }
     /// Driven, pictures of the boxes are written as PREFIX-1.png and so on; nowhere where it is empty.
     void PictureBoxesAs(const QString& prefix) { boxPictures_ = prefix; }
+    /// What readers hear of a picture besides what is drawn on it.
+    void TellPicturesBy(FormWindow::PictureTeller teller) { teller_ = std::move(teller); }
     /// Null for a form without a window.
     [[nodiscard]] FormWindow* WindowOf(const Form& form) const;
     /// Brings what is open to the front.
@@ -81,6 +85,7 @@ private:
 
     /// Whether a form is modal is known only after it was shown, so its window waits until anything is to be seen.
     void ShowWaiting();
+    void TellReaders();
     void LeaveLoopsOf(const Form& form);
     [[nodiscard]] QWidget* Front();
     [[nodiscard]] QString NextBoxPicture();
@@ -92,6 +97,8 @@ private:
     std::vector<const Form*> shown_;
     QPointer<FormWindow> waiting_;
     std::vector<ModalRun> modal_;
+    FormWindow::PictureTeller teller_;
+    ReaderWatch readers_{[this] { TellReaders(); }};
     FileAsker files_;
     Paper paper_;
     QString printFolder_;

@@ -7,11 +7,13 @@
 #include "desktop/sideways.h"
 #include "desktop/texts.h"
 
+#include <QAccessible>
 #include <QCloseEvent>
 #include <QKeyEvent>
 #include <QMenuBar>
 #include <QMouseEvent>
 #include <QRegion>
+#include <QTimer>
 
 namespace brindlex {
 
@@ -46,7 +48,7 @@ FormWindow::FormWindow(Form& form, Mirror& mirror, Hands hands)
     client_->setMouseTracking(true);
     client_->installEventFilter(this);
     BuildPeers(form_);
-    NameForReaders(*this);
+    TellReaders();
     MirrorForm();
     SyncFocus();
 }
@@ -128,10 +130,24 @@ void FormWindow::MirrorControl(Control& control, Aspect aspect) {
     }
     if (Peer* const peer = PeerOf(control)) {
         peer->MirrorAspect(aspect);
-        if (aspect == Aspect::Caption) {
-            NameAfterCaption(*this, control);
+        if (aspect == Aspect::Caption || aspect == Aspect::Drawing) {
+            TellReaders();
         }
     }
+}
+
+void FormWindow::TellReaders() {
+    if (!QAccessible::isActive() || tellsSoon_) {
+        return;
+    }
+    // Once for all that one event changes, as names and words are dear beside a pointer move.
+    tellsSoon_ = true;
+    QTimer::singleShot(0, this, [this] {
+        tellsSoon_ = false;
+        if (!released_) {
+            NameForReaders(*this);
+        }
+    });
 }
 
 void FormWindow::SyncFocus() {

@@ -9,11 +9,15 @@
 
 #include <QWidget>
 
+#include <functional>
 #include <memory>
+#include <string>
 #include <unordered_map>
 #include <utility>
 
 namespace brindlex {
+
+class PictureBox;
 
 /// Where a window's events come from: timers and window moves count only where a person uses the program.
 enum class Hands { Person, Script };
@@ -52,6 +56,15 @@ public:
     /// Cuts the window to an ellipse; one that holds the whole window leaves it whole.
     void CutTo(const QRect& ellipse);
 
+    /// What a reader hears of a picture besides what is drawn on it.
+    using PictureTeller = std::function<std::string(const PictureBox&)>;
+    void TellPicturesBy(PictureTeller teller) { teller_ = std::move(teller); }
+    [[nodiscard]] std::string TaleOf(const PictureBox& picture) const {
+        return teller_ ? teller_(picture) : std::string();
+    }
+    /// Something that readers name or tell has changed: they hear of it soon. Does nothing while there are none.
+    void TellReaders();
+
     [[nodiscard]] QWidget* Client() const { return client_; }
     /// The widget on which a container's controls stand.
     [[nodiscard]] QWidget* Inside(ControlContainer& container) const;
@@ -80,6 +93,8 @@ private:
     Mirror& mirror_;
     Hands hands_;
     bool released_ = false;
+    bool tellsSoon_ = false;
+    PictureTeller teller_;
     QWidget* client_;
     MenuTree menus_;
     std::unordered_map<const Control*, std::unique_ptr<Peer>> peers_;

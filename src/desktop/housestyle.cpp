@@ -2,6 +2,7 @@
 #include "desktop/housestyle.h"
 
 #include "desktop/looks.h"
+#include "desktop/readers.h"
 
 #include <QApplication>
 #include <QPainter>
@@ -19,6 +20,7 @@ constexpr int ButtonInset = 2;
 constexpr int CaptionGap = 3;
 // The outline of small fields on a dark ground, where the base draws it darker still.
 constexpr float OutlineStrength = 0.35F;
+constexpr float FaintOutline = 0.2F;
 
 bool HasFocus(const QStyleOption& option) {
     return option.state.testFlag(QStyle::State_HasFocus) && option.state.testFlag(QStyle::State_Enabled);
@@ -51,6 +53,12 @@ HouseStyle::HouseStyle() : QProxyStyle(QStringLiteral("Fusion")) {
 void HouseStyle::drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
                              const QWidget* widget) const {
     QProxyStyle::drawControl(element, option, painter, widget);
+    // The menu under the keyboard before it opens, which the base shows by nothing.
+    const bool menuAhead = element == CE_MenuBarItem && option->state.testFlag(State_Selected) &&
+                           !option->state.testFlag(State_Sunken) && widget != nullptr && widget->hasFocus();
+    if (menuAhead) {
+        PaintFocusRing(*painter, option->rect, option->palette);
+    }
     if (!HasFocus(*option)) {
         return;
     }
@@ -90,8 +98,8 @@ void HouseStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* opt
     if (!IsDark(option->palette) || (!round && element != PE_IndicatorCheckBox && element != PE_FrameLineEdit)) {
         return;
     }
-    QColor outline = option->palette.color(QPalette::WindowText);
-    outline.setAlphaF(OutlineStrength);
+    QColor outline = option->palette.color(QPalette::Active, QPalette::WindowText);
+    outline.setAlphaF(option->state.testFlag(State_Enabled) ? OutlineStrength : FaintOutline);
     painter->save();
     painter->setRenderHint(QPainter::Antialiasing);
     painter->setPen(outline);
@@ -114,6 +122,7 @@ int HouseStyle::styleHint(StyleHint hint, const QStyleOption* option, const QWid
 void DressApplication() {
     QApplication::setStyle(new HouseStyle);
     QApplication::setFont(ScreenFont("Arial", OutsidePoints, false));
+    ServeReaders();
 }
 
 }  // namespace brindlex

@@ -24,7 +24,8 @@ public:
 /// The ring of the focus, just inside of a rectangle.
 void PaintFocusRing(QPainter& painter, const QRect& around, const QPalette& palette);
 
-/// Style and face of everything that is not a form's inside. The application must be there.
+/// Style and face of everything that is not a form's inside, and what screen readers get of the widgets. The
+/// application must be there.
 void DressApplication();
 
 }  // namespace brindlex

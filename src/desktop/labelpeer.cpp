@@ -7,6 +7,8 @@
 #include "desktop/texts.h"
 #include "frame/picturebox.h"
 
+#include <algorithm>
+
 namespace brindlex {
 
 namespace {
@@ -28,6 +30,20 @@ QLabel* MakeWidget(FormWindow& window, Label& label) {
     });
 }
 
+// It stands on one, or over one of its neighbours.
+bool LiesOnPicture(const Label& label) {
+    if (dynamic_cast<const PictureBox*>(&label.Container()) != nullptr) {
+        return true;
+    }
+    const double x = label.Left() + label.Width() / 2;
+    const double y = label.Top() + label.Height() / 2;
+    const auto& siblings = label.Container().Children();
+    return std::any_of(siblings.begin(), siblings.end(), [&](const Control* sibling) {
+        return dynamic_cast<const PictureBox*>(sibling) != nullptr && sibling->Visible() && x > sibling->Left() &&
+               x < sibling->Left() + sibling->Width() && y > sibling->Top() && y < sibling->Top() + sibling->Height();
+    });
+}
+
 }  // namespace
 
 LabelPeer::LabelPeer(FormWindow& window, Label& label)
@@ -35,7 +51,6 @@ LabelPeer::LabelPeer(FormWindow& window, Label& label)
     text_->setTextFormat(Qt::PlainText);
     text_->setAlignment(Alignments[static_cast<std::size_t>(label.Align())] |
                         (label.Click.IsBound() ? Qt::AlignVCenter : Qt::AlignTop));
-    text_->setWordWrap(!label.AutoSize());
 }
 
 void LabelPeer::MirrorOwn(Aspect aspect) {
@@ -48,17 +63,30 @@ void LabelPeer::MirrorOwn(Aspect aspect) {
         font.setUnderline(true);
         text_->setFont(font);
     }
-    if (aspect == Aspect::All || aspect == Aspect::Order || aspect == Aspect::Look) {
-        // On a picture a label covers what is drawn beneath it, unless it lets it shine through.
-        const bool onPicture = dynamic_cast<const PictureBox*>(&label_.Container()) != nullptr;
-        if (onPicture) {
-            QPalette palette = text_->palette();
-            palette.setColor(QPalette::Window, Qt::white);
-            palette.setColor(QPalette::WindowText, ToQt(label_.ForeColor()));
-            text_->setPalette(palette);
-        }
-        text_->setAutoFillBackground(onPicture && !label_.Transparent() && !label_.Caption().empty());
+    const bool looks = aspect == Aspect::All || aspect == Aspect::Place || aspect == Aspect::Look;
+    if (looks && !label_.AutoSize()) {
+        // A label that is one line high does not lose its last word for a hair's breadth.
+        text_->setWordWrap(text_->height() >= 2 * text_->fontMetrics().height());
     }
+    if (looks || aspect == Aspect::Order) {
+        MirrorGround();
+    }
+}
+
+// On a picture a label covers what is drawn beneath it, unless it lets it shine through. The picture is white whatever
+// the window is, so the ink goes with it.
+void LabelPeer::MirrorGround() {
+    const bool onPicture = LiesOnPicture(label_);
+    if (onPicture) {
+        QPalette palette = text_->palette();
+        palette.setColor(QPalette::Window, Qt::white);
+        palette.setColor(QPalette::WindowText, ToQt(label_.ForeColor()));
+        text_->setPalette(palette);
+    } else if (onPicture_) {
+        text_->setPalette(QPalette());
+    }
+    onPicture_ = onPicture;
+    text_->setAutoFillBackground(onPicture && !label_.Transparent() && !label_.Caption().empty());
 }
 
 std::optional<PropertyValue> LabelPeer::Seen(std::string_view property) const {

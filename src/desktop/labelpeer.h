@@ -18,8 +18,11 @@ protected:
     [[nodiscard]] bool RelaysMouse() const override { return true; }
 
 private:
+    void MirrorGround();
+
     Label& label_;
     QLabel* text_;
+    bool onPicture_ = false;
 };
 
 }  // namespace brindlex

@@ -7,6 +7,7 @@
 
 #include <QApplication>
 #include <QClipboard>
+#include <QComboBox>
 #include <QDropEvent>
 #include <QInputMethodEvent>
 #include <QMenu>
@@ -22,11 +23,19 @@ LineBox::LineBox(QWidget* parent, FormWindow& window, EditControl& box)
     setDragEnabled(false);
     connect(this, &QLineEdit::selectionChanged, this, [this] { TakeSelection(); });
     connect(this, &QLineEdit::cursorPositionChanged, this, [this] { TakeSelection(); });
-    connect(this, &QLineEdit::textEdited, this, [this](const QString& changed) {
-        TakeChange(window_, box_, changed);
-        const Mirror::Write write(window_.Flag());
-        MirrorText();
-    });
+    const auto take = [this](const QString& changed) {
+        if (!window_.Deaf()) {
+            TakeChange(window_, box_, changed);
+            const Mirror::Write write(window_.Flag());
+            MirrorText();
+        }
+    };
+    // A screen reader's text comes as a change that was not edited; a list changes its line by itself, though.
+    if (qobject_cast<QComboBox*>(parent) != nullptr) {
+        connect(this, &QLineEdit::textEdited, this, take);
+    } else {
+        connect(this, &QLineEdit::textChanged, this, take);
+    }
 }
 
 void LineBox::MirrorText() {

@@ -16,6 +16,8 @@ public:
 
     /// To be painted again, once, however often it changes before that.
     void DrawingChanged();
+    [[nodiscard]] const PictureBox& Surface() const { return picture_; }
+    [[nodiscard]] const FormWindow& Window() const { return window_; }
 
 protected:
     void paintEvent(QPaintEvent* event) override;

@@ -18,7 +18,7 @@ constexpr int IconInset = 3;
 }  // namespace
 
 ToolbarPeer::ToolbarPeer(FormWindow& window, Toolbar& toolbar)
-    : Peer(window, toolbar, new QWidget(window.Inside(toolbar.Container()))), toolbar_(toolbar) {
+    : Peer(window, toolbar, new ToolRow(window.Inside(toolbar.Container()))), toolbar_(toolbar) {
     for (const ToolButton& tool : toolbar.Buttons()) {
         AddTool(tool);
     }

@@ -6,6 +6,12 @@
 
 namespace brindlex {
 
+/// The row that the buttons stand in.
+class ToolRow : public QWidget {
+public:
+    using QWidget::QWidget;
+};
+
 class ToolWidget : public QToolButton {
 public:
     explicit ToolWidget(QWidget* parent);
