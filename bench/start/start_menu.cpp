@@ -1,4 +1,4 @@
-// The program as it starts, up to its painted menu.
+// The program as it starts, up to its painted menu, where it ends: for a profiler.
 #include "painted.h"
 
 #include "app/endsignals.h"
@@ -6,6 +6,7 @@
 #include "app/onlyone.h"
 #include "app/workplace.h"
 #include "desktop/desktopruntime.h"
+#include "desktop/housestyle.h"
 #include "frame/program.h"
 
 using namespace brindlex;
@@ -14,8 +15,8 @@ int main(int argc, char** argv) {
     const std::filesystem::path folder = Workplace();
     OnlyOne onlyOne(folder);
     EndSignals endSignals;
-    QApplication::setStyle(QStringLiteral("Fusion"));
     QApplication application(argc, argv);
+    DressApplication();
     const EndWhenPainted end(application);
     DesktopRuntime runtime;
     Program program(runtime, Folder(folder));

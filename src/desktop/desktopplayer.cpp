@@ -259,9 +259,9 @@ void DesktopPlayer::MouseOn(Control& control, MouseAct act, const Mouse& mouse) 
     if (widget == nullptr) {
         return;
     }
-    // A press brings the focus, also in a window that the platform did not bring to the front.
+    // A press brings the focus by itself, but not in a window that the platform did not bring to the front.
     if (auto* const input = dynamic_cast<InputControl*>(&control);
-        act == MouseAct::Down && input != nullptr && input->TakesFocus()) {
+        act == MouseAct::Down && input != nullptr && input->TakesFocus() && !widget->isActiveWindow()) {
         Focus(*input);
     }
     double x = mouse.X;

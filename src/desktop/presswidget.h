@@ -1,5 +1,5 @@
 // A button widget that does nothing by itself: keys, presses and mnemonics go to the surface, and its mark is never
-// flipped by a press but mirrored. It takes the focus as the surface gives it, after the press and before Click.
+// flipped by a press but mirrored. The press itself takes the focus, before the button comes up and Click runs.
 #pragma once
 
 #include "desktop/editkeys.h"
@@ -20,7 +20,7 @@ class PressWidget : public Widget {
 public:
     PressWidget(QWidget* parent, FormWindow& window, Button& button)
         : Widget(parent), window_(window), button_(button) {
-        this->setFocusPolicy(Qt::TabFocus);
+        this->setFocusPolicy(Qt::StrongFocus);
     }
 
 protected:
