@@ -62,6 +62,8 @@ int Walk(int argc, char** argv) {
     parts.MakePlayer = [](Runtime& runtime) {
         return std::make_unique<DesktopPlayer>(dynamic_cast<DesktopRuntime&>(runtime));
     };
+    // The window system keeps fonts, styles and pictures for itself.
+    parts.Slack = std::size_t{4} << 20U;
     parts.LookAtWindows = LookAtWindows;
     parts.LookAfterwards = LookAfterwards;
     return RunWalks(argc, argv, parts);

@@ -8,6 +8,8 @@
 #include "frame/textbox.h"
 
 #include <algorithm>
+#include <functional>
+#include <map>
 #include <optional>
 
 namespace brindlex {
@@ -54,6 +56,15 @@ const std::vector<std::string>& FileNames() {
     static const std::vector<std::string> names{"a.rgt", "b.obl",  "c.bcf",   "d.sin",    "e.pgf",
                                                 "f.geo", "folder", "rubbish", "not/there"};
     return names;
+}
+
+/// The document that a form opens; empty for a form that opens none.
+std::string FittingFile(const Form& form) {
+    static const std::map<std::string, std::string, std::less<>> files{{"Form1", "a.rgt"},  {"Form2", "b.obl"},
+                                                                       {"Form8", "c.bcf"},  {"Form12", "d.sin"},
+                                                                       {"Form16", "e.pgf"}, {"Form17", "f.geo"}};
+    const auto found = files.find(form.Name());
+    return found == files.end() ? std::string() : found->second;
 }
 
 }  // namespace
@@ -144,6 +155,9 @@ void Walker::Prepare() {
 }
 
 void Walker::ActOn(Form& form) {
+    if (!run_.Files.empty() && Chance(2)) {
+        run_.Files.front() = FittingFile(form);
+    }
     if (Chance(6) && !form.Menus().empty()) {
         ActOnMenu(form);
         return;
@@ -271,11 +285,31 @@ void Walker::PointAt(Control& control) {
     mouse.X = picture->FromTwipsX(place.Width * Number(101) / 100);
     mouse.Y = picture->FromTwipsY(place.Height * Number(101) / 100);
     mouse.Button = Number(3);
+    if (Chance(3)) {
+        Drag(control, mouse,
+             {picture->FromTwipsX(place.Width * Number(101) / 100),
+              picture->FromTwipsY(place.Height * Number(101) / 100)});
+        return;
+    }
     const std::vector<MouseAct> acts{MouseAct::Move, MouseAct::Move, MouseAct::Down, MouseAct::Up,
                                      MouseAct::DoubleClick};
     const MouseAct act = mouse.Button == 0 ? MouseAct::Move : AnyOf(acts);
     Say("mouse on " + control.Parent().Name() + "." + control.Name());
     player_.MouseOn(control, act, mouse);
+}
+
+/// A button goes down, the pointer moves, the button goes up.
+void Walker::Drag(Control& control, Mouse mouse, Size to) {
+    mouse.Button = 1 + Number(2);
+    Say("drag on " + control.Parent().Name() + "." + control.Name());
+    for (const MouseAct act : {MouseAct::Down, MouseAct::Move, MouseAct::Up}) {
+        if (!GoesOn() || !control.IsUsable()) {
+            return;
+        }
+        player_.MouseOn(control, act, mouse);
+        mouse.X = to.Width;
+        mouse.Y = to.Height;
+    }
 }
 
 void Walker::Look() {

@@ -45,6 +45,7 @@ private:
     void ActOnCombo(ComboBox& combo);
     void ActOnToolbar(Toolbar& toolbar);
     void PointAt(Control& control);
+    void Drag(Control& control, Mouse mouse, Size to);
     void Look();
     void Say(const std::string& act);
     [[nodiscard]] bool GoesOn() const { return left_ > 0 && broken_.empty() && !program_.Ended(); }

@@ -22,7 +22,6 @@ namespace {
 constexpr int MostActs = 3000;
 // What libraries keep for themselves is there after so many programs.
 constexpr int WarmUp = 30;
-constexpr std::size_t Slack = std::size_t{2} << 20U;
 
 std::string GeometryLine(int number, const std::string& values, const std::string& kind) {
     std::string line = " " + std::to_string(number);
@@ -90,6 +89,8 @@ int WalkOnce(const WalkParts& parts, const std::filesystem::path& folder, int ac
 /// Whether the heap grows from program to program.
 class Memory {
 public:
+    explicit Memory(std::size_t slack) : slack_(slack) {}
+
     /// Bytes in use beyond those after the warm-up; 0 while nothing is wrong.
     std::size_t GrownAfter(int programs) {
         const std::size_t used = mallinfo2().uordblks;
@@ -98,7 +99,7 @@ public:
             return 0;
         }
         most_ = std::max(most_, used);
-        return used > warm_ + Slack ? used - warm_ : 0;
+        return used > warm_ + slack_ ? used - warm_ : 0;
     }
     [[nodiscard]] std::string Told() const {
         return std::to_string(warm_ / 1024) + " KiB in use after the warm-up, " + std::to_string(most_ / 1024) +
@@ -106,6 +107,7 @@ public:
     }
 
 private:
+    std::size_t slack_;
     std::size_t warm_ = 0;
     std::size_t most_ = 0;
 };
@@ -116,7 +118,7 @@ int RunWalks(int argc, const char* const* argv, const WalkParts& parts) {
     const int all = argc > 1 ? std::atoi(argv[1]) : 20000;
     unsigned seed = argc > 2 ? static_cast<unsigned>(std::atoi(argv[2])) : 1;
     const std::filesystem::path folder = MakeFolder();
-    Memory memory;
+    Memory memory(parts.Slack);
     int left = all;
     int programs = 0;
     int status = 0;

@@ -6,6 +6,7 @@
 #include "frame/program.h"
 #include "frame/runtime.h"
 
+#include <cstddef>
 #include <functional>
 #include <memory>
 #include <string>
@@ -19,6 +20,8 @@ struct WalkParts {
     std::function<std::string(Program& program, Runtime& runtime)> LookAtWindows;
     /// The same when the program and its runtime are gone.
     std::function<std::string()> LookAfterwards;
+    /// By how many bytes the heap may grow after the first programs.
+    std::size_t Slack = std::size_t{256} << 10U;
 };
 
 /// The program of a walk: NAME [ACTS [SEED]]. Ends with 1 and the trail where something did not hold.
