@@ -1,11 +1,13 @@
 // Documents as plain values for exports.
 #include "cli/exportsheet.h"
 
+#include "geometry/crossings.h"
 #include "unit/cli_exportfixture.h"
 #include "unit/geometryrecords.h"
 
 #include <gtest/gtest.h>
 
+#include <random>
 #include <string>
 #include <tuple>
 #include <vector>
@@ -69,6 +71,28 @@ TEST(CliExportSheet, Pairs) {
     ASSERT_EQ(legs.size(), 1U);
     EXPECT_TRUE(legs[0].Cross);
     EXPECT_NEAR(legs[0].Angle, 36.8698976458440, 1e-12);
+}
+
+TEST(CliExportSheet, PairsAreThoseOfTheBoard) {
+    // On a small grid many lines are parallel, upright, without length, or meet at their ends.
+    std::mt19937 random(3);
+    const auto value = [&] { return std::to_string(static_cast<int>(random() % 7) - 3); };
+    for (int drawing = 0; drawing < 100; ++drawing) {
+        Lines lines;
+        for (int number = 1; number <= 14; ++number) {
+            lines.push_back(LineLine(number, value(), value(), value(), value()));
+        }
+        const geometry::Crossings lists = geometry::FindCrossings(lines);
+        std::vector<PairValues> wanted;
+        for (const auto* const list : {&lists.Crossing, &lists.Potential}) {
+            for (const std::string& item : *list) {
+                const geometry::PairItem pair = geometry::ReadPair(item);
+                wanted.emplace_back(pair.NumberA, pair.NumberB, pair.Crossing.X, pair.Crossing.Y,
+                                    list == &lists.Crossing);
+            }
+        }
+        EXPECT_EQ(ValuesOf(PairsOf(lines)), wanted);
+    }
 }
 
 TEST(CliExportSheet, ManyLinesArePairedAndTooManyRefused) {
