@@ -88,7 +88,12 @@ void Session::DrawEntities() {
     Pass.Marks.Hovered = false;
     Pass.CircleStuff();
     Pass.LineStuff();
+    const int lines = Entities.LineTop;
     Pass.PointStuff();
+    if (Entities.LineTop > lines) {
+        // A point was the second pick: its lines came after their pass.
+        Pass.LineStuff();
+    }
 }
 
 void Session::Paint() {
