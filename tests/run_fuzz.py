@@ -1,15 +1,22 @@
 #!/usr/bin/env python3
-"""Runs the fuzzers, one a processor: run_fuzz.py FOLDER_OF_FUZZERS [SECONDS_EACH] [--runs N] [--jobs N] [--only NAME...]
+"""Runs the fuzzers, one a processor.
+
+    run_fuzz.py FOLDER_OF_FUZZERS [SECONDS_EACH] [--runs N] [--jobs N] [--keep] [--only NAME...]
 
 For so many seconds each, or for so many runs. Seeds come from tests/fuzz/corpus/NAME, words from tests/fuzz/NAME.dict;
-what reads alone (X_read_fuzz) takes those of the form (X_fuzz) where it has none of its own. What a run finds new stays
-in FOLDER/../corpus/NAME; an input that breaks the program is left in FOLDER/../findings.
+what reads alone (X_read_fuzz) takes those of the form (X_fuzz) where it has none of its own. What earlier runs found
+is kept in tests/fuzz/corpus/NAME.tar.gz. What a run finds new stays in FOLDER/../corpus/NAME, and with --keep the
+inputs there that reach something of their own take the place of the kept ones. An input that breaks the program is left
+in FOLDER/../findings.
 """
 
 import argparse
+import gzip
+import io
 import os
 import pathlib
 import subprocess
+import tarfile
 import tempfile
 
 import harness
@@ -27,11 +34,16 @@ def kept(name, where):
     return None
 
 
+def learnt_of(program):
+    return program.parent.parent / "corpus" / program.name
+
+
 def command_of(program, options):
     name = program.name
-    learnt, findings = program.parent.parent / "corpus" / name, program.parent.parent / "findings"
+    learnt, findings = learnt_of(program), program.parent.parent / "findings"
     learnt.mkdir(parents=True, exist_ok=True)
     findings.mkdir(exist_ok=True)
+    unpack(name, learnt)
     limit = [f"-runs={options.runs}", f"-max_len={LONGEST}"] if options.runs else [f"-max_total_time={options.seconds}"]
     command = [str(program), *limit, "-timeout=20", "-rss_limit_mb=3000", "-print_final_stats=1",
                f"-artifact_prefix={findings}/{name}-", str(learnt)]
@@ -39,6 +51,31 @@ def command_of(program, options):
     command += [str(seeds)] if seeds else []
     command += [f"-dict={words}"] if words else []
     return command
+
+
+def archive_of(name):
+    return SOURCES / "corpus" / f"{name}.tar.gz"
+
+
+def unpack(name, learnt):
+    if archive_of(name).exists():
+        with tarfile.open(archive_of(name)) as archive:
+            for member in archive.getmembers():
+                (learnt / pathlib.Path(member.name).name).write_bytes(archive.extractfile(member).read())
+
+
+def keep(program, learnt):
+    """Packs what reaches something of its own, the same bytes for the same inputs."""
+    with tempfile.TemporaryDirectory(prefix="brindlex-fuzz-") as least:
+        subprocess.run([str(program), "-merge=1", least, str(learnt)], stdin=subprocess.DEVNULL,
+                       stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL, check=True)
+        packed = io.BytesIO()
+        with tarfile.open(fileobj=packed, mode="w", format=tarfile.USTAR_FORMAT) as archive:
+            for path in sorted(pathlib.Path(least).iterdir()):
+                member = tarfile.TarInfo(path.name)
+                member.size = path.stat().st_size
+                archive.addfile(member, io.BytesIO(path.read_bytes()))
+    archive_of(program.name).write_bytes(gzip.compress(packed.getvalue(), mtime=0))
 
 
 def run_fuzzer(program, options):
@@ -57,6 +94,8 @@ def run_fuzzer(program, options):
     if done.returncode != 0:
         harness.tell_failure(name, done.stdout)
         return False
+    if options.keep:
+        keep(program, learnt_of(program))
     stats = dict(line[len("stat::"):].split(":") for line in done.stdout.decode("utf-8", "replace").splitlines()
                  if line.startswith("stat::"))
     print(f"{name}: {stats['number_of_executed_units'].strip()} inputs, {stats['average_exec_per_sec'].strip()} a second",
@@ -70,6 +109,7 @@ def main():
     options.add_argument("seconds", type=int, nargs="?", default=10)
     options.add_argument("--runs", type=int, default=0)
     options.add_argument("--jobs", type=int, default=harness.processors())
+    options.add_argument("--keep", action="store_true")
     options.add_argument("--only", nargs="+", default=[])
     options = options.parse_args()
     names = options.only or sorted(path.stem for path in SOURCES.glob("*_fuzz.cpp"))

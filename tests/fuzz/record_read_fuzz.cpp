@@ -53,7 +53,7 @@ void CheckBoard(const std::vector<std::string>& lines) {
 }
 
 void CheckAll(std::string_view text) {
-    constexpr std::size_t MostLines = 30;
+    constexpr std::size_t MostLines = 5;
     std::vector<std::string> lines;
     while (!text.empty() && lines.size() < MostLines) {
         lines.emplace_back(TakeLine(text));
