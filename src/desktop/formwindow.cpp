@@ -15,6 +15,9 @@
 #include <QRegion>
 #include <QTimer>
 
+#include <algorithm>
+#include <cmath>
+
 namespace brindlex {
 
 namespace {
@@ -32,6 +35,19 @@ Qt::WindowFlags FlagsOf(const Form& form) {
         flags |= Qt::WindowMaximizeButtonHint;
     }
     return flags;
+}
+
+// Whether a rectangle lies within an ellipse, by its corners; a pixel short, so that what is near the edge is left to
+// the ellipse's own pixels.
+bool LiesWithin(const QRect& rect, const QRect& ellipse) {
+    const double across = ellipse.width() / 2.0 - 1;
+    const double down = ellipse.height() / 2.0 - 1;
+    const QPointF middle = QRectF(ellipse).center();
+    const QRectF area(rect);
+    const QPointF corners[] = {area.topLeft(), area.topRight(), area.bottomLeft(), area.bottomRight()};
+    return across > 0 && down > 0 && std::all_of(std::begin(corners), std::end(corners), [&](const QPointF& corner) {
+               return std::hypot((corner.x() - middle.x()) / across, (corner.y() - middle.y()) / down) < 1;
+           });
 }
 
 }  // namespace
@@ -165,6 +181,11 @@ void FormWindow::SyncFocus() {
 }
 
 void FormWindow::CutTo(const QRect& ellipse) {
+    // The pixels of a large ellipse would be a tenth of the program's start.
+    if (LiesWithin(rect(), ellipse)) {
+        clearMask();
+        return;
+    }
     const QRegion region(ellipse, QRegion::Ellipse);
     const QRegion whole(rect());
     if (whole.subtracted(region).isEmpty()) {
