@@ -74,7 +74,7 @@ const Kind* Nearest(const Control& control, Measure&& measure) {
 
 // A label's words; those of a short one with the heading above it in front.
 QString NameOf(const Label& label, const Control& control) {
-    const QString name = Spoken(label.Caption());
+    QString name = Spoken(label.Caption());
     if (QString(name).remove(u':').size() > ShortName) {
         return name;
     }
@@ -195,7 +195,7 @@ QString NameFor(const Control& control) {
     // The first that finds a name gives it.
     constexpr Namer Namers[] = {FromKind, FromDrawnLetter, FromLabel, FromOptions, FromFrame, FromFrameBeside};
     for (const Namer namer : Namers) {
-        if (const QString name = namer(control); !name.isEmpty()) {
+        if (QString name = namer(control); !name.isEmpty()) {
             return name;
         }
     }

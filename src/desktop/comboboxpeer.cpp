@@ -19,6 +19,10 @@ struct Step {
     int key;
     int items;
 };
+// Of an opened list, in pixels.
+constexpr int ListMargin = 24;
+constexpr int WidestList = 600;
+
 constexpr Step Steps[] = {{Qt::Key_Up, -1}, {Qt::Key_Down, 1}, {Qt::Key_PageUp, -8}, {Qt::Key_PageDown, 8}};
 
 }  // namespace
@@ -38,6 +42,8 @@ ListBox::ListBox(QWidget* parent, FormWindow& window, ComboBox& combo)
 void ListBox::showPopup() {
     if (!combo_.Locked() && !window_.Deaf()) {
         view()->setAccessibleName(accessibleName());
+        // As wide as its longest item, which the box may be too narrow for.
+        view()->setMinimumWidth(std::min(view()->sizeHintForColumn(0) + ListMargin, WidestList));
         QComboBox::showPopup();
     }
 }

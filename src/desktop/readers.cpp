@@ -57,7 +57,7 @@ public:
     }
     [[nodiscard]] QString text(QAccessible::Text kind) const override {
         const QString own = QAccessibleWidget::text(kind);
-        const QString chosen = list_->currentIndex() < 0 ? list_->placeholderText() : list_->currentText();
+        QString chosen = list_->currentIndex() < 0 ? list_->placeholderText() : list_->currentText();
         if (kind == QAccessible::Value) {
             return chosen;
         }

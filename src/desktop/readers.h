@@ -16,7 +16,7 @@ void ServeReaders();
 class ReaderWatch : public QAccessible::ActivationObserver {
 public:
     explicit ReaderWatch(std::function<void()> came);
-    ~ReaderWatch();
+    ~ReaderWatch() override;
     ReaderWatch(const ReaderWatch&) = delete;
     ReaderWatch& operator=(const ReaderWatch&) = delete;
 
