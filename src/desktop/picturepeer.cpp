@@ -57,10 +57,18 @@ PicturePeer::PicturePeer(FormWindow& window, PictureBox& picture)
       area_(static_cast<PictureArea*>(Widget())) {
 }
 
+// What stands on the picture has its colours. Its own look is that of its pen, which changes many times in a drawing.
+void PicturePeer::TakePalette() {
+    const QPalette ground = Window().palette();
+    if (ground.cacheKey() != ground_) {
+        ground_ = ground.cacheKey();
+        Widget()->setPalette(PaperPalette(ground));
+    }
+}
+
 void PicturePeer::MirrorOwn(Aspect aspect) {
     if (aspect == Aspect::All || aspect == Aspect::Look) {
-        // What stands on it has its colours.
-        Widget()->setPalette(PaperPalette(Window().palette()));
+        TakePalette();
     }
     if (aspect == Aspect::Drawing) {
         area_->DrawingChanged();

@@ -40,7 +40,10 @@ protected:
     [[nodiscard]] bool RelaysMouse() const override { return true; }
 
 private:
+    void TakePalette();
+
     PictureArea* area_;
+    qint64 ground_ = -1;
 };
 
 }  // namespace brindlex
