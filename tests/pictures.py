@@ -393,7 +393,7 @@ def take(drive, theme, scale, names, out):
                 shutil.move(str(picture), str(folder / picture.name))
     pictures = sorted(map(str, folder.glob("*.png")))
     if pictures and shutil.which("montage"):
-        subprocess.run(["montage", "-label", "", *pictures, "-tile", "6x", "-geometry", "+8+8", "-background",
+        subprocess.run(["montage", "-label", "", *pictures, "-tile", "6x", "-geometry", "640x560>+8+8", "-background",
                         "#808080", str(out / f"{theme}-{scale}.png")], check=False)
     return passed, len(names) - passed
 

@@ -2,6 +2,7 @@
 #include "desktop/desktopplayer.h"
 
 #include "desktop/comboboxpeer.h"
+#include "desktop/linklabel.h"
 #include "desktop/pixels.h"
 #include "desktop/scrollbarpeer.h"
 #include "desktop/texts.h"
@@ -309,7 +310,9 @@ std::optional<PropertyValue> DesktopPlayer::Seen(Form& form, std::string_view pr
         for (const Control* const control : form.Controls()) {
             if (const QWidget* const widget = WidgetOf(*control);
                 widget != nullptr && widget == window->focusWidget()) {
-                return control->Name();
+                // A link hears the keys while the surface's focus stays where it is.
+                const bool link = dynamic_cast<const LinkLabel*>(widget) != nullptr;
+                return link ? std::nullopt : std::optional<PropertyValue>(control->Name());
             }
         }
         return std::string();
