@@ -1,0 +1,273 @@
+// A rewrite under a system whose calls fail one by one: the old file or the new one, whole, and nothing left beside it.
+// The calls are the program's own here, stand in for the system's, and pass on what is not to fail.
+#include "frame/rewrite.h"
+#include "frame/textfile.h"
+#include "unit/faultof.h"
+#include "unit/testfolder.h"
+
+#include <fcntl.h>
+#include <gtest/gtest.h>
+#include <sys/stat.h>
+#include <sys/syscall.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <cstdarg>
+#include <filesystem>
+#include <ostream>
+#include <string>
+#include <string_view>
+#include <utility>
+#include <vector>
+
+namespace brindlex {
+namespace {
+
+/// While it lives, calls of one name fail: from the first one on, so many times.
+class Failing {
+public:
+    Failing(std::string_view call, int error, int first = 1, int times = 1)
+        : call_(call), error_(error), first_(first), times_(times), before_(std::exchange(Now(), this)) {}
+    Failing(const Failing&) = delete;
+    Failing(Failing&&) = delete;
+    Failing& operator=(const Failing&) = delete;
+    Failing& operator=(Failing&&) = delete;
+    ~Failing() { Now() = before_; }
+
+    /// How often it was called.
+    [[nodiscard]] int Calls() const { return calls_; }
+
+    /// Whether this call fails; sets errno.
+    static bool At(std::string_view call) {
+        Failing* const now = Now();
+        if (now == nullptr || now->call_ != call) {
+            return false;
+        }
+        ++now->calls_;
+        if (now->calls_ < now->first_ || now->calls_ >= now->first_ + now->times_) {
+            return false;
+        }
+        errno = now->error_;
+        return true;
+    }
+
+private:
+    static Failing*& Now() {
+        static Failing* now = nullptr;
+        return now;
+    }
+
+    std::string_view call_;
+    int error_;
+    int first_;
+    int times_;
+    int calls_ = 0;
+    Failing* before_;
+};
+
+constexpr int Always = 1'000'000;
+
+}  // namespace
+}  // namespace brindlex
+
+using brindlex::Failing;
+
+extern "C" {
+
+ssize_t write(int file, const void* bytes, size_t size) {
+    if (Failing::At("write nothing")) {
+        return 0;
+    }
+    if (Failing::At("write half")) {
+        size = (size + 1) / 2;
+    }
+    return Failing::At("write") ? -1 : ::syscall(SYS_write, file, bytes, size);
+}
+
+int fsync(int file) {
+    return Failing::At("fsync") ? -1 : static_cast<int>(::syscall(SYS_fsync, file));
+}
+
+int close(int file) {
+    const int done = static_cast<int>(::syscall(SYS_close, file));
+    return Failing::At("close") ? -1 : done;
+}
+
+int fchmod(int file, mode_t mode) noexcept {
+    return Failing::At("fchmod") ? -1 : static_cast<int>(::syscall(SYS_fchmod, file, mode));
+}
+
+int fchown(int file, uid_t user, gid_t group) noexcept {
+    return Failing::At("fchown") ? -1 : static_cast<int>(::syscall(SYS_fchown, file, user, group));
+}
+
+int fstat(int file, struct stat* status) noexcept {
+    const int done = ::fstatat(file, "", status, AT_EMPTY_PATH);
+    if (Failing::At("fstat")) {
+        return -1;
+    }
+    // The file belongs to somebody else.
+    status->st_uid += Failing::At("other user") ? 1 : 0;
+    status->st_gid += Failing::At("other group") ? 1 : 0;
+    return done;
+}
+
+int access(const char* path, int mode) noexcept {
+    return Failing::At("access") ? -1 : ::faccessat(AT_FDCWD, path, mode, 0);
+}
+
+int rename(const char* from, const char* to) noexcept {
+    return Failing::At("rename") ? -1 : ::renameat(AT_FDCWD, from, AT_FDCWD, to);
+}
+
+ssize_t readlink(const char* path, char* target, size_t size) noexcept {
+    return Failing::At("readlink") ? -1 : ::readlinkat(AT_FDCWD, path, target, size);
+}
+
+int open(const char* path, int flags, ...) {  // NOLINT(cert-dcl50-cpp): the system's own way
+    va_list rest;
+    va_start(rest, flags);
+    const mode_t mode = (flags & O_CREAT) != 0 ? va_arg(rest, mode_t) : 0;
+    va_end(rest);
+    return Failing::At("open") ? -1 : ::openat(AT_FDCWD, path, flags, mode);
+}
+
+}  // extern "C"
+
+namespace brindlex {
+namespace {
+
+using Names = std::vector<std::string>;
+
+/// What a rewrite of f.txt from "old" to "new" ends in under a failing system, and what stands there then.
+struct Outcome {
+    std::string words;
+    std::string content;
+    bool operator==(const Outcome&) const = default;
+};
+
+std::ostream& operator<<(std::ostream& stream, const Outcome& outcome) {
+    return stream << '"' << outcome.words << "\", \"" << outcome.content << '"';
+}
+
+Outcome Rewritten(const TestFolder& folder, Durability durability = Durability::Disk) {
+    const std::string words = WordsOf([&] { folder.Files().Rewrite("f.txt", "new", durability); });
+    EXPECT_EQ(folder.Names(), Names{"f.txt"});
+    return {words, folder.Get("f.txt")};
+}
+
+TEST(RewriteFaults, EachCallInTurn) {
+    const struct {
+        const char* call;
+        int error;
+        int first;
+        int times;
+        Outcome outcome;
+    } cases[] = {
+        {"write", ENOSPC, 1, 1, {"No space left on device", "old"}},
+        {"write", EINTR, 1, 3, {"", "new"}},
+        {"write half", 0, 1, 1, {"", "new"}},
+        {"write half", 0, 1, Always, {"", "new"}},
+        {"write nothing", 0, 1, 1, {"Input/output error", "old"}},
+        {"fchmod", EPERM, 1, 1, {"", "new"}},
+        {"fstat", EIO, 1, 1, {"", "new"}},
+        {"fsync", EINTR, 1, 2, {"", "new"}},
+        {"fsync", EIO, 1, 1, {"Input/output error", "old"}},
+        {"fsync", EIO, 2, 1, {"", "new"}},  // of the folder: the new file is in its place already
+        {"close", EINTR, 1, 1, {"", "new"}},
+        {"close", EDQUOT, 1, 1, {"Disk quota exceeded", "old"}},
+        {"rename", EACCES, 1, 1, {"Permission denied", "old"}},
+        {"access", EACCES, 1, 1, {"Permission denied", "old"}},
+        {"open", ENOSPC, 1, 1, {"No space left on device", "old"}},
+        {"open", EINTR, 1, 2, {"", "new"}},
+        {"open", EEXIST, 1, 999, {"", "new"}},
+        {"open", EEXIST, 1, Always, {"File exists", "old"}},
+        {"open", EMFILE, 2, 1, {"", "new"}},  // of the folder
+    };
+    for (const auto& c : cases) {
+        const TestFolder folder;
+        folder.Put("f.txt", "old");
+        const Failing failing(c.call, c.error, c.first, c.times);
+        EXPECT_EQ(Rewritten(folder), c.outcome) << c.call << ' ' << c.error << ' ' << c.first;
+        EXPECT_GE(failing.Calls(), c.first) << c.call;
+    }
+}
+
+TEST(RewriteFaults, AsManyNamesAreTriedAsTheCommentSays) {
+    const TestFolder folder;
+    const Failing failing("open", EEXIST, 1, Always);
+    EXPECT_EQ(FaultOf([&] { folder.Files().Rewrite("f.txt", "new"); }), FaultNumber::FileIo);
+    EXPECT_EQ(failing.Calls(), 1000);
+    EXPECT_EQ(folder.Names(), Names{});
+}
+
+TEST(RewriteFaults, TheDiskIsWaitedForWhereThatIsWanted) {
+    const struct {
+        Durability durability;
+        int syncs;  // the file and the folder, or none
+    } cases[] = {{Durability::Disk, 2}, {Durability::Step, 0}};
+    for (const auto& c : cases) {
+        const TestFolder folder;
+        folder.Put("f.txt", "old");
+        const Failing counting("fsync", 0, Always);
+        EXPECT_EQ(Rewritten(folder, c.durability), (Outcome{"", "new"}));
+        EXPECT_EQ(counting.Calls(), c.syncs);
+    }
+}
+
+TEST(RewriteFaults, EveryDescriptorIsClosed) {
+    const TestFolder folder;
+    folder.Put("f.txt", "old");
+    {
+        const Failing counting("close", 0, Always);
+        EXPECT_EQ(Rewritten(folder).content, "new");
+        EXPECT_GE(counting.Calls(), 2);  // the file and the folder
+    }
+    // A descriptor that is left open would keep the lowest number from coming back.
+    const int before = ::open("/dev/null", O_RDONLY | O_CLOEXEC);
+    ::close(before);
+    for (const char* const call : {"write", "fsync", "rename", "close"}) {
+        const Failing failing(call, EIO);
+        EXPECT_EQ(Rewritten(folder).words, "Input/output error") << call;
+    }
+    const int after = ::open("/dev/null", O_RDONLY | O_CLOEXEC);
+    ::close(after);
+    EXPECT_EQ(after, before);
+}
+
+TEST(RewriteFaults, AnotherOwnerIsKeptWhereThatCanBe) {
+    for (const char* const other : {"other user", "other group"}) {
+        const TestFolder folder;
+        folder.Put("f.txt", "old");
+        const Failing different(other, 0);
+        EXPECT_EQ(Rewritten(folder), (Outcome{"", "new"})) << other;
+        EXPECT_GE(different.Calls(), 1) << other;
+    }
+    const TestFolder folder;
+    folder.Put("f.txt", "old");
+    // The same owner is not set again.
+    const Failing counting("fchown", EPERM);
+    EXPECT_EQ(Rewritten(folder), (Outcome{"", "new"}));
+    EXPECT_EQ(counting.Calls(), 0);
+}
+
+TEST(RewriteFaults, ALinkThatCannotBeRead) {
+    const TestFolder folder;
+    std::filesystem::create_symlink("f.txt", folder.Path() / "link");
+    const Failing failing("readlink", EIO);
+    EXPECT_EQ(WordsOf([&] { folder.Files().Rewrite("link", "new"); }), "Input/output error");
+    EXPECT_EQ(folder.Names(), Names{"link"});
+}
+
+TEST(RewriteFaults, ADeviceThatCannotBeOpened) {
+    const TestFolder folder;
+    std::filesystem::create_symlink("/dev/null", folder.Path() / "null");
+    for (const char* const call : {"open", "write", "close"}) {
+        const Failing failing(call, EIO);
+        EXPECT_EQ(WordsOf([&] { folder.Files().Rewrite("null", "new"); }), "Input/output error") << call;
+    }
+    EXPECT_EQ(folder.Names(), Names{"null"});
+}
+
+}  // namespace
+}  // namespace brindlex
