@@ -49,8 +49,14 @@ def measure():
 
 def export(form):
     command = ["llvm-cov-14", "export", f"-format={form}", f"-instr-profile={PROFILES / 'all.profdata'}",
-               BINARIES[0], f"-object={BINARIES[1]}", *(ROOT / name for name in FILES)]
-    return subprocess.run([str(part) for part in command], stdout=subprocess.PIPE, check=True, text=True).stdout
+               BINARIES[0], f"-object={BINARIES[1]}"]
+    return subprocess.run([str(part) for part in command], stdout=subprocess.PIPE, stderr=subprocess.DEVNULL,
+                          check=True, text=True).stdout
+
+
+def source_name(name):
+    """A file's name from the top of the project; the compiler may have told it from the folder of the build."""
+    return os.path.relpath(BUILD / name, ROOT)
 
 
 def lines_of(report):
@@ -58,10 +64,11 @@ def lines_of(report):
     found, name = {}, ""
     for row in report.splitlines():
         if row.startswith("SF:"):
-            name = os.path.relpath(row[3:], ROOT)
+            name = source_name(row[3:])
         elif row.startswith("DA:"):
             line, count = row[3:].split(",")[:2]
-            found.setdefault(name, {})[int(line)] = int(count)
+            here = found.setdefault(name, {})
+            here[int(line)] = here.get(int(line), 0) + int(count)
     return found
 
 
@@ -69,7 +76,7 @@ def branches_of(report):
     """{file: {(line, column, end line, end column): [how often true, how often false]}}, all instances together"""
     found = collections.defaultdict(dict)
     for function in json.loads(report)["data"][0]["functions"]:
-        name = os.path.relpath(function["filenames"][0], ROOT)
+        name = source_name(function["filenames"][0])
         for *place, yes, no, _, _, _ in function["branches"]:
             counts = found[name].setdefault(tuple(place), [0, 0])
             counts[0] += yes
