@@ -72,8 +72,8 @@ Fault LastFault() {
 class Descriptor {
 public:
     explicit Descriptor(int descriptor) : descriptor_(descriptor) {}
-    Descriptor(Descriptor&& other) noexcept : descriptor_(std::exchange(other.descriptor_, -1)) {}
     Descriptor(const Descriptor&) = delete;
+    Descriptor(Descriptor&&) = delete;
     Descriptor& operator=(const Descriptor&) = delete;
     Descriptor& operator=(Descriptor&&) = delete;
     ~Descriptor() {

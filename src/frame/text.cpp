@@ -156,14 +156,11 @@ std::string_view UnsignedPrefix(std::string_view text) {
     return text.substr(0, end);
 }
 
-/// Whether an unsigned number that has no place among the doubles is too large, rather than too small.
+/// Whether an unsigned number that has no place among the doubles is too large, rather than too small. It is not zero.
 bool TooLarge(std::string_view number) {
     const std::size_t mark = std::min(number.find_first_of("Ee"), number.size());
     const std::string_view mantissa = number.substr(0, mark);
     const std::size_t first = mantissa.find_first_of("123456789");
-    if (first == std::string_view::npos) {
-        return false;
-    }
     const std::size_t point = std::min(mantissa.find('.'), mantissa.size());
     auto place = static_cast<long long>(point) - static_cast<long long>(first);
     if (mark < number.size()) {
@@ -185,7 +182,7 @@ bool TooLarge(std::string_view number) {
 double Read(std::string_view number) {
     double value = 0.0;
     const auto parsed = std::from_chars(number.data(), number.data() + number.size(), value);
-    if (parsed.ec == std::errc::result_out_of_range || !std::isfinite(value)) {
+    if (parsed.ec == std::errc::result_out_of_range) {
         if (TooLarge(number)) {
             throw Fault(FaultNumber::Overflow);
         }
@@ -289,7 +286,7 @@ double Round(double number, int decimals) {
     end = std::to_chars(end, buffer.data() + buffer.size(), form.point - form.count).ptr;
     double value = 0.0;
     const auto parsed = std::from_chars(buffer.data(), end, value);
-    if (parsed.ec != std::errc() || !std::isfinite(value)) {
+    if (parsed.ec != std::errc()) {
         return number;  // the 15-digit form of the very largest doubles lies just beyond the range
     }
     return form.negative ? -value : value;

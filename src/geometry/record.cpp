@@ -51,8 +51,9 @@ std::string TrimmedRight(std::string_view text) {
     return std::string(text.substr(0, text.find_last_not_of(' ') + 1));
 }
 
+/// Where the word of a kind, not of none, begins; 0 where it is not there.
 int KindPosition(std::string_view line, Kind kind) {
-    return kind == Kind::None ? 0 : InStr(line, KindWord(kind), KindColumn);
+    return InStr(line, KindWord(kind), KindColumn);
 }
 
 /// The text behind one mark up to another, or to the end where the other does not follow.

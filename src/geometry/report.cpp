@@ -22,9 +22,9 @@ constexpr std::string_view DeepIndent = "                     ";
 constexpr int KindColumn = 14;
 constexpr std::size_t NumberCharacters = 3;
 
-/// A column of a text from 1 on; nothing before it.
+/// A text from a column on, counted from 1.
 std::string_view From(std::string_view text, std::size_t column, std::size_t length = std::string_view::npos) {
-    return column == 0 || column > text.size() ? std::string_view{} : text.substr(column - 1, length);
+    return column > text.size() ? std::string_view{} : text.substr(column - 1, length);
 }
 
 /// A computed value's text; 0 where it is beyond the range of a double.
@@ -194,17 +194,10 @@ std::string PointBlock(const Record& record) {
 }
 
 std::string Block(std::string_view line, const Record& record, const Kinds& kinds, const CrossingTexts& crossings) {
-    switch (record.Shape) {
-        case Kind::Circle:
-            return CircleBlock(line, record, kinds);
-        case Kind::Line:
-            return LineBlock(line, record, kinds, crossings);
-        case Kind::Point:
-            return PointBlock(record);
-        case Kind::None:
-            break;
+    if (record.Shape == Kind::Circle) {
+        return CircleBlock(line, record, kinds);
     }
-    return {};
+    return record.Shape == Kind::Line ? LineBlock(line, record, kinds, crossings) : PointBlock(record);
 }
 
 }  // namespace

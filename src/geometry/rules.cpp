@@ -47,7 +47,7 @@ struct Marks {
 
 void Compare(int index, const std::vector<int>& picks, Marks& marks) {
     const auto last = static_cast<std::size_t>(std::nearbyint(static_cast<double>(picks.size()) / 2));
-    for (std::size_t j = 1; j <= last && j < picks.size(); ++j) {  // from entry 1: intended
+    for (std::size_t j = 1; j <= last; ++j) {  // from entry 1: intended; half of them is never all
         (picks[j] == index ? marks.Drop : marks.Keep) = true;
     }
 }

@@ -4,8 +4,6 @@
 #include "frame/checked.h"
 #include "frame/text.h"
 
-#include <algorithm>
-
 namespace brindlex::sineplate {
 
 namespace {
@@ -19,7 +17,7 @@ bool AboveLimit(const std::string& text) {
         return angle > LargestAngle;
     }
     // Beyond the range of a double: above the limit unless it is negative.
-    return text[std::min(text.find_first_not_of(' '), text.size() - 1)] != '-';
+    return text[text.find_first_not_of(' ')] != '-';
 }
 
 }  // namespace

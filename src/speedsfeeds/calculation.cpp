@@ -119,12 +119,10 @@ std::string MinutesText(double minutes) {
 std::string HoursText(double minutes) {
     const Parted minute(minutes, MinuteMask);
     const std::string seconds = Format(SecondsPerMinute * minute.Part, TwoDigits);
-    Parted hour(Val(minute.Whole) / MinutesPerHour, HourMask);
+    const Parted hour(Val(minute.Whole) / MinutesPerHour, HourMask);
     double minutesLeft = MinutesPerHour * hour.Part;
-    // Read before the seconds are carried, so that the minutes may show as 60 too: intended.
-    if (Reads60(Format(minutesLeft, TwoDigits))) {
-        hour.Whole = OneMore(hour.Whole);
-    }
+    // Not carried into the hours, so that the minutes may show as 60 too: intended. Before that they are 59 at most, as
+    // 59 / 60 in four places is less than 59 and a half.
     if (Reads60(seconds)) {
         minutesLeft += 1;
     }

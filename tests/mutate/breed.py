@@ -13,6 +13,7 @@ import finder
 
 ERROR = re.compile(r"^(\S+?):(\d+):(\d+): (?:fatal )?error: (.*)$", re.M)
 NAMED = re.compile(r"[‘']([^’']+)[’']")
+NOT_CONSTANT = re.compile(r"the value of [‘']([^’']+)[’'] is not usable in a constant expression")
 FLAGS = "-O1 -w -fpermissive -D_GLIBCXX_ASSERTIONS"
 ATTEMPTS = 15
 ROUND = 100
@@ -167,7 +168,8 @@ class Breed:
         for name, errors in faulty.items():
             names = set()
             for _, message in errors:
-                names.update(word.split("::")[-1].split(" ")[-1] for word in NAMED.findall(message))
+                found = NOT_CONSTANT.findall(message) or NAMED.findall(message)
+                names.update(word.split("::")[-1].split(" ")[-1] for word in found)
             lines = {line for line, _ in errors}
             mended |= (self.fix_again(name, lambda v, names=names: v[4] in names) or
                        self.leave_out(name, lambda c, lines=lines: c.line in lines) or

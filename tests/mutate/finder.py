@@ -97,6 +97,8 @@ class Finder:
         start, end = cursor.extent.start.offset, cursor.extent.end.offset
         if kind in (K.STATIC_ASSERT, K.ENUM_DECL):
             return
+        if kind == K.CALL_EXPR and cursor.spelling == "reserve":
+            return  # room that is set aside is no result
         if kind in FUNCTIONS:
             head = self.source(start, min(end, start + 200)).split("(")[0]
             context = context.inside_function("constexpr" in head.split() or "consteval" in head.split(),
@@ -151,8 +153,8 @@ class Finder:
     def literal(self, cursor, context, start, end, line):
         text = self.source(start, end)
         following = self.source(end, end + 2)
-        if re.match(r"\w", following):
-            return
+        if re.match(r"[\w>]", following):
+            return  # it has a suffix of its own, or is the argument of a template
         kind = cursor.kind
         if kind == K.CXX_BOOL_LITERAL_EXPR and text in ("true", "false"):
             self.add("literal", start, end, "({is}({0}) != ", ")", [f"{text} flipped"], context, line)

@@ -31,6 +31,7 @@ public:
     std::optional<std::string> Clipboard;  ///< its text
     Size Portrait = {11520, 15120};        ///< printable size in twips
     std::optional<Fault> PrinterRefusal;   ///< thrown instead of printing
+    std::optional<Fault> PaperRefusal;     ///< thrown instead of telling the size of the paper
     bool ProgramsStart = true;             ///< whether other programs can be started
     int Quits = 0;
     int Events = 0;  ///< calls of DoEvents
@@ -80,6 +81,9 @@ public:
     bool OpenAddress(const std::string& address) override { return Start(address); }
     void DoEvents() override { ++Events; }
     Size PrintableSize(PaperOrientation orientation) override {
+        if (PaperRefusal) {
+            throw Fault(*PaperRefusal);
+        }
         return orientation == PaperOrientation::Portrait ? Portrait : Size{Portrait.Height, Portrait.Width};
     }
     void PrintDocument(const PrintedDocument& document) override {

@@ -114,6 +114,24 @@ protected:
     TestProgram program;
 };
 
+TEST_F(MinutesDialog, WithoutACheckTheFirstAngleIsMeant) {
+    Owner("Form2").Text2.Text("7");
+    std::string label;
+    program.Run.ModalLoop = [&](Form& form) { label = dynamic_cast<MinutesSecondsDialog&>(form).Label1.Caption(); };
+    program.Owner.Get("Form4").ShowModal();
+    EXPECT_EQ(label, "Required Angle:");
+}
+
+TEST_F(MinutesDialog, AFormWithoutAnglesHasNone) {
+    program.Register<Form>("Form1", "Form1", 600.0, 600.0);
+    program.Owner.Get("Form3").ShowModal();
+    ASSERT_FALSE(program.Run.Boxes.empty());
+    EXPECT_NE(program.Run.Boxes[0].Text.find("Form1 has no angles"), std::string::npos);
+    EXPECT_TRUE(program.Owner.Ended());
+    EXPECT_EQ(WordsOf([&] { static_cast<void>(MakeMinutesSecondsDialog(program.Owner, "Form1")); }),
+              "There is no Minutes and Seconds dialog Form1");
+}
+
 TEST_F(MinutesDialog, OpensWithItsTexts) {
     for (const Pair& pair : Pairs) {
         SCOPED_TRACE(pair.dialog);

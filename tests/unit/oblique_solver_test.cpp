@@ -153,6 +153,8 @@ INSTANTIATE_TEST_SUITE_P(
                       Refused{"Angle A, side a, side b", 90, 5, 5, true, Refusal::NotPositive},
                       Refused{"Angle A, side a, side b", 30, 3, 10, false, Refusal::NotPositive},
                       Refused{"Angle A, side a, side b", 30, 3, 10, true, Refusal::NotPositive},
+                      // The sine would be 1.06, hardly above 1.
+                      Refused{"Angle A, side a, side b", 45, 2, 3, false, Refusal::NotPositive},
                       Refused{"Angle A, side a, side b", 80, 6, 5, true, Refusal::NotPositive},
                       Refused{"Angle B, side b, side c", 80, 6, 5, false, Refusal::NotPositive},
                       Refused{"Angle C, side b, side c", 30, 10, 3, true, Refusal::NotPositive},

@@ -23,6 +23,18 @@ PolygonSolution Solve(int sides, double dimension, bool inscribed, DimensionType
     return SolvePolygon({sides, dimension, inscribed, type, !odd, odd}, Rad);
 }
 
+TEST(PolygonSolver, NoRowHoldsWhereACornerCouldBeChosenToo) {
+    EXPECT_EQ(SolvePolygon({3, 1, true, Flats, false, true}, Rad).Diameter, 0);
+    EXPECT_EQ(SolvePolygon({3, 1, false, Flats, false, true}, Rad).Diameter, 0);
+    // The area needs no row: that of a hexagon is the root of 3 halved times the width squared.
+    for (const bool inscribed : {true, false}) {
+        const PolygonSolution solution = SolvePolygon({6, 1, inscribed, Flats, true, true}, Rad);
+        EXPECT_EQ(solution.Diameter, 0);
+        EXPECT_EQ(solution.PictureRadius, inscribed ? 1200 : 0);
+        EXPECT_NEAR(solution.Area, std::sqrt(3.0) / 2, 1e-14);
+    }
+}
+
 TEST(PolygonSolver, HalfAngles) {
     EXPECT_EQ(HalfAngle(3), 60);
     EXPECT_EQ(HalfAngle(4), 45);

@@ -182,6 +182,22 @@ TEST_F(Printing, PrintPictureHasAHeadingAndTheShownBoxes) {
     ExpectUnchanged();
 }
 
+TEST_F(Printing, APrinterWithoutPaperIsToldOf) {
+    PictureBox& box = form().Picture1;
+    for (const bool redraw : {false, true}) {
+        box.AutoRedraw(redraw);
+        program.Runtime.PaperRefusal = Fault(FaultNumber::FileIo, "No paper");
+        PrintBox(program.Owner, box, 0, 0, 100, 100);
+        program.Runtime.PaperRefusal.reset();
+        ASSERT_EQ(program.Run.Boxes.size(), 1U);
+        EXPECT_EQ(program.Run.Boxes[0].Text, "No paper");
+        EXPECT_EQ(program.Run.Boxes[0].Caption, "Printer Error!");
+        EXPECT_EQ(program.Run.Boxes[0].Style, 0);
+        program.Run.Boxes.clear();
+        EXPECT_EQ(box.AutoRedraw(), redraw);
+    }
+}
+
 TEST_F(Printing, AHighPictureStaysOnThePage) {
     program.Runtime.Portrait = {10000, 4840};
     Answer(PrinterChoice{});

@@ -1,7 +1,8 @@
 // A rewrite under a system whose calls fail one by one: the old file or the new one, whole, and nothing left beside it.
-// The calls are the program's own here, stand in for the system's, and pass on what is not to fail.
+// The calls below stand in for the system's in the whole program of unit tests, and pass on what is not to fail.
 #include "frame/rewrite.h"
 #include "frame/textfile.h"
+#include "unit/failing.h"
 #include "unit/faultof.h"
 #include "unit/testfolder.h"
 
@@ -17,58 +18,7 @@
 #include <ostream>
 #include <string>
 #include <string_view>
-#include <utility>
 #include <vector>
-
-namespace brindlex {
-namespace {
-
-/// While it lives, calls of one name fail: from the first one on, so many times.
-class Failing {
-public:
-    Failing(std::string_view call, int error, int first = 1, int times = 1)
-        : call_(call), error_(error), first_(first), times_(times), before_(std::exchange(Now(), this)) {}
-    Failing(const Failing&) = delete;
-    Failing(Failing&&) = delete;
-    Failing& operator=(const Failing&) = delete;
-    Failing& operator=(Failing&&) = delete;
-    ~Failing() { Now() = before_; }
-
-    /// How often it was called.
-    [[nodiscard]] int Calls() const { return calls_; }
-
-    /// Whether this call fails; sets errno.
-    static bool At(std::string_view call) {
-        Failing* const now = Now();
-        if (now == nullptr || now->call_ != call) {
-            return false;
-        }
-        ++now->calls_;
-        if (now->calls_ < now->first_ || now->calls_ >= now->first_ + now->times_) {
-            return false;
-        }
-        errno = now->error_;
-        return true;
-    }
-
-private:
-    static Failing*& Now() {
-        static Failing* now = nullptr;
-        return now;
-    }
-
-    std::string_view call_;
-    int error_;
-    int first_;
-    int times_;
-    int calls_ = 0;
-    Failing* before_;
-};
-
-constexpr int Always = 1'000'000;
-
-}  // namespace
-}  // namespace brindlex
 
 using brindlex::Failing;
 
@@ -124,6 +74,18 @@ ssize_t readlink(const char* path, char* target, size_t size) noexcept {
     return Failing::At("readlink") ? -1 : ::readlinkat(AT_FDCWD, path, target, size);
 }
 
+ssize_t read(int file, void* bytes, size_t size) {
+    return Failing::At("read") ? -1 : ::syscall(SYS_read, file, bytes, size);
+}
+
+int remove(const char* path) noexcept {
+    if (Failing::At("remove")) {
+        return -1;
+    }
+    const int done = ::unlinkat(AT_FDCWD, path, 0);
+    return done != 0 && errno == EISDIR ? ::unlinkat(AT_FDCWD, path, AT_REMOVEDIR) : done;
+}
+
 int open(const char* path, int flags, ...) {  // NOLINT(cert-dcl50-cpp): the system's own way
     va_list rest;
     va_start(rest, flags);
@@ -138,6 +100,8 @@ namespace brindlex {
 namespace {
 
 using Names = std::vector<std::string>;
+
+constexpr int Always = 1'000'000;
 
 /// What a rewrite of f.txt from "old" to "new" ends in under a failing system, and what stands there then.
 struct Outcome {
@@ -240,8 +204,10 @@ TEST(RewriteFaults, AnotherOwnerIsKeptWhereThatCanBe) {
         const TestFolder folder;
         folder.Put("f.txt", "old");
         const Failing different(other, 0);
+        const Failing refused("fchown", EPERM);
         EXPECT_EQ(Rewritten(folder), (Outcome{"", "new"})) << other;
-        EXPECT_GE(different.Calls(), 1) << other;
+        EXPECT_EQ(different.Calls(), 1) << other;
+        EXPECT_EQ(refused.Calls(), 1) << other;
     }
     const TestFolder folder;
     folder.Put("f.txt", "old");
@@ -249,6 +215,48 @@ TEST(RewriteFaults, AnotherOwnerIsKeptWhereThatCanBe) {
     const Failing counting("fchown", EPERM);
     EXPECT_EQ(Rewritten(folder), (Outcome{"", "new"}));
     EXPECT_EQ(counting.Calls(), 0);
+}
+
+TEST(RewriteFaults, AFileWithoutAFolderBeforeItsName) {
+    const TestFolder folder;
+    const std::filesystem::path before = std::filesystem::current_path();
+    std::filesystem::current_path(folder.Path());
+    const Failing counting("fsync", 0, Always);
+    RewriteFile("f.txt", "new", Durability::Disk);
+    std::filesystem::current_path(before);
+    EXPECT_EQ(folder.Get("f.txt"), "new");
+    EXPECT_EQ(counting.Calls(), 2);
+}
+
+TEST(RewriteFaults, ASocketIsNoFile) {
+    const TestFolder folder;
+    ASSERT_EQ(::mknod((folder.Path() / "socket").c_str(), S_IFSOCK | 0600, 0), 0);
+    EXPECT_EQ(WordsOf([&] { folder.Files().Rewrite("socket", "new"); }), "No such device or address");
+    EXPECT_EQ(folder.Names(), Names{"socket"});
+}
+
+TEST(RewriteFaults, ADiskThatGivesUpWhileItIsRead) {
+    const TestFolder folder;
+    folder.Put("long.txt", std::string(20000, 'x'));  // more than is read at once
+    for (const int first : {1, 2}) {
+        InputFile file = folder.Files().OpenInput("long.txt");
+        const Failing failing("read", EIO, first);
+        EXPECT_EQ(FaultOf([&] { static_cast<void>(file.LineInput()); }), FaultNumber::FileIo) << first;
+        EXPECT_EQ(failing.Calls(), first);
+    }
+}
+
+TEST(RewriteFaults, WhatCannotBeDeletedOrOpened) {
+    const TestFolder folder;
+    folder.Put("f.txt", "old");
+    {
+        const Failing failing("remove", EACCES);
+        EXPECT_EQ(FaultOf([&] { folder.Files().Kill("f.txt"); }), FaultNumber::PermissionDenied);
+    }
+    const NoDescriptors none;
+    EXPECT_EQ(WordsOf([&] { static_cast<void>(folder.Files().OpenInput("f.txt")); }), "Too many open files");
+    EXPECT_EQ(WordsOf([&] { static_cast<void>(folder.Files().OpenOutput("f.txt")); }), "Too many open files");
+    EXPECT_TRUE(folder.Files().Exists("f.txt"));
 }
 
 TEST(RewriteFaults, ALinkThatCannotBeRead) {

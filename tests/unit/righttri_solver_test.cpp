@@ -130,6 +130,14 @@ TEST(RightTriangleSolver, RefusesInOrder) {
     }
 }
 
+TEST(RightTriangleSolver, RefusesZeroBesideAnAngle) {
+    for (const char* const name : {"Angle B and side a", "Angle C and side b"}) {
+        EXPECT_EQ(SolveTexts(name, "0", "30").Refused, Refusal::InvalidValues) << name;
+        EXPECT_EQ(SolveTexts(name, "5", "0").Refused, Refusal::InvalidValues) << name;
+        EXPECT_EQ(SolveTexts(name, "-1", "30").Refused, Refusal::None) << name;
+    }
+}
+
 TEST(RightTriangleSolver, ALegMustBeBelowTheHypotenuse) {
     for (const char* const name : {"Side a and side b", "Side a and side c"}) {
         EXPECT_EQ(SolveTexts(name, "3", "3").Refused, Refusal::InvalidValues);

@@ -43,6 +43,16 @@ TEST(SinePlateChecks, EntriesHaveToBeThere) {
     });
 }
 
+TEST(SinePlateChecks, BeyondTheRangeOfADoubleTheSignDecides) {
+    ExpectRefusals({
+        {{"1E309", "", false, "5"}, PlateRefusal::FirstAngleTooLarge},
+        {{"  1E309", "", false, "5"}, PlateRefusal::FirstAngleTooLarge},
+        {{"-1E309", "", false, "5"}, PlateRefusal::None},
+        {{"  -1E309", "", false, "5"}, PlateRefusal::None},
+        {{"30", " 1E309", true, "5"}, PlateRefusal::SecondAngleTooLarge},
+    });
+}
+
 TEST(SinePlateChecks, OnlyTheTextOfAZeroIsRefused) {
     ExpectRefusals({
         {{"0.0", "", false, "5\""}, PlateRefusal::None},

@@ -30,6 +30,32 @@ Results Work(const Entries& entries, Unit unit = Unit::Inch, Machine machine = M
     return Calculate(entries, unit, machine, Pi, onShow);
 }
 
+TEST(CuttingCalculation, HalfAPairOfEntriesGivesNothing) {
+    Entries entries = Inch();
+    entries.CutDepth = "1";
+    entries.CutLength = "1";
+    EXPECT_EQ(Work(entries).RemovalRate, std::nullopt);
+    EXPECT_EQ(Work(entries).CutTime, std::nullopt);
+    std::swap(entries.CutDepth, entries.CutWidth);
+    std::swap(entries.CutLength, entries.CutCount);
+    EXPECT_EQ(Work(entries).RemovalRate, std::nullopt);
+    EXPECT_EQ(Work(entries).CutTime, std::nullopt);
+}
+
+TEST(CuttingRanges, AZeroAtEitherEnd) {
+    Entries entries = Inch();
+    // The second one reads as 0 and -3, the ends in order are -3 and 0.
+    for (const char* const range : {"0-500", "0--3", "500-0"}) {
+        entries.SpeedRange = range;
+        const auto refusal = OutOfRange(entries, Machine::Mill);
+        ASSERT_TRUE(refusal) << range;
+        EXPECT_NE(refusal->Message.find("Can't Contain a Value of 0."), std::string::npos) << range;
+    }
+    EXPECT_EQ(ConvertRanges({"100-0", ".001-.002"}, Unit::Metric), std::nullopt);
+    EXPECT_EQ(ConvertRanges({"0-100", ".001-.002"}, Unit::Metric), std::nullopt);
+    EXPECT_EQ(ConvertRanges({"1-100", ".001-0"}, Unit::Metric), std::nullopt);
+}
+
 TEST(CuttingCalculation, AHalfInchEndMill) {
     Entries entries = Inch();
     Results results = Work(entries);

@@ -1,0 +1,146 @@
+// Corners of the draw passes and of the drawing's files: an entity of number 0, what lies beyond the range, a store
+// that can't be read or written.
+#include "form17fixture.h"
+#include "geometry/drawpass.h"
+#include "geometry/hover.h"
+#include "unit/failing.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cerrno>
+#include <filesystem>
+#include <limits>
+#include <string>
+#include <vector>
+
+namespace brindlex::geometry {
+namespace {
+
+class PassEdges : public Form17Test {
+protected:
+    PassEdges() {
+        pass.Calls = {};
+        picture.Scale(-10, 10, 10, -10);
+        picture.Cls();
+    }
+    /// How many items of a kind there are.
+    [[nodiscard]] long Items(DrawKind kind) const {
+        const auto& items = picture.Drawn().Items();
+        return std::count_if(items.begin(), items.end(), [&](const DrawItem& item) { return item.Kind == kind; });
+    }
+
+    PictureBox& picture = form->Picture1;
+    Board board;
+    DrawPass pass{picture, board};
+    const Scale scale{20, -20};
+};
+
+TEST_F(PassEdges, AnEntityInTheBoxAndUnderThePointerIsPickedOnce) {
+    board.EnterPoint({5, 5}, 0, scale);
+    pass.View.Picking = true;
+    pass.View.Box = {14, -4, 16, -6};
+    pass.View.PointerOver = true;
+    pass.View.Pointer = {5, 5};
+    int picked = 0;
+    pass.Calls.Picked = [&] { ++picked; };
+    pass.PointStuff();
+    EXPECT_EQ(picked, 1);
+    EXPECT_EQ(pass.Pick.Shape, Kind::Point);
+    EXPECT_EQ(pass.Marks.Hits.Points, (std::vector<int>{0, 0}));
+}
+
+TEST_F(PassEdges, NobodyNeedListen) {
+    board.EnterPoint({5, 5}, 3, scale);
+    pass.View.Picking = true;
+    pass.View.PointerOver = true;
+    pass.View.Pointer = {5, 5};
+    pass.Calls.NamedNumbers = [] { return std::array<double, 6>{3}; };
+    pass.PointStuff();
+    EXPECT_EQ(pass.Pick.Number, 3);
+    EXPECT_EQ(pass.Marks.Ink, ink::Named);
+}
+
+TEST_F(PassEdges, ZeroNamesNothing) {
+    board.EnterPoint({5, 5}, 0, scale);
+    pass.Calls.NamedNumbers = [] { return std::array<double, 6>{}; };
+    pass.PointStuff();
+    EXPECT_EQ(pass.Marks.Ink, ink::Plain);
+}
+
+TEST_F(PassEdges, ANumberBeyondTheRangeIsNotPrinted) {
+    const double infinity = std::numeric_limits<double>::infinity();
+    board.EnterLine({{0, infinity}, {1, infinity}}, 1, scale);
+    board.EnterLine({{infinity, 0}, {infinity, 1}}, 2, scale);
+    pass.LineStuff();
+    EXPECT_EQ(Items(DrawKind::Text), 0);
+    board.EnterLine({{0, 0}, {1, 1}}, 3, scale);
+    pass.LineStuff();
+    EXPECT_EQ(Items(DrawKind::Text), 1);
+}
+
+TEST_F(PassEdges, ACircleOfNegativeRadiusShowsItsNumberAlone) {
+    board.EnterCircle({0, 0}, -1, 4, scale);
+    pass.CircleStuff();
+    EXPECT_EQ(Items(DrawKind::Circle), 0);
+    EXPECT_EQ(Items(DrawKind::Text), 1);
+    board.EnterCircle({0, 0}, 0, 5, scale);
+    pass.CircleStuff();
+    EXPECT_EQ(Items(DrawKind::Circle), 1);
+}
+
+class FileEdges : public Form17Test {
+protected:
+    /// A folder stands where the live drawing belongs.
+    void BlockTheStore() {
+        std::filesystem::remove(folder.Path() / "geometry.dat");
+        std::filesystem::create_directory(folder.Path() / "geometry.dat");
+    }
+    const std::string NotConverted = "The Drawing Could Not Be Converted!";
+};
+
+TEST_F(FileEdges, AnEmptyDrawingChangesItsUnit) {
+    EXPECT_TRUE(form->ChooseByPerson(form->MM));
+    EXPECT_EQ(form->Label26.Caption(), "Millimeters");
+    EXPECT_EQ(Messages(), std::vector<std::string>{});
+}
+
+TEST_F(FileEdges, ThePictureFollowsScrollBarsThatStay) {
+    // Beyond the reach of the scroll bars in either unit.
+    PlaceCircle("40000", "40000", "1");
+    Tool("Fit");
+    EXPECT_EQ(form->HScroll1.Value(), 32767);
+    EXPECT_EQ(form->VScroll1.Value(), 32767);
+    EXPECT_TRUE(form->ChooseByPerson(form->MM));
+    EXPECT_EQ(form->HScroll1.Value(), 32767);
+    EXPECT_EQ(form->Picture1.ScaleLeft(), 32767);
+    EXPECT_EQ(form->Picture1.ScaleTop(), 32767);
+}
+
+TEST_F(FileEdges, ADrawingThatCannotBeReadIsNotConverted) {
+    PlacePoint("1", "1");
+    BlockTheStore();
+    EXPECT_TRUE(form->ChooseByPerson(form->MM));
+    EXPECT_EQ(Messages(), std::vector<std::string>{NotConverted});
+    EXPECT_EQ(form->Label26.Caption(), "Inches");
+}
+
+TEST_F(FileEdges, ADrawingThatCannotBeWrittenIsNotConverted) {
+    PlacePoint("1", "1");
+    const std::string before = folder.Get("geometry.dat");
+    const Failing failing("rename", EACCES);
+    EXPECT_TRUE(form->ChooseByPerson(form->MM));
+    EXPECT_EQ(Messages(), std::vector<std::string>{NotConverted});
+    EXPECT_EQ(folder.Get("geometry.dat"), before);
+}
+
+TEST_F(FileEdges, ADrawingThatCannotBeReadIsNotSaved) {
+    PlacePoint("1", "1");
+    BlockTheStore();
+    run.Files.push_back("out.geo");
+    EXPECT_TRUE(form->ChooseByPerson(form->SaveAs));
+    EXPECT_FALSE(folder.Files().Exists("out.geo"));
+}
+
+}  // namespace
+}  // namespace brindlex::geometry

@@ -1,0 +1,237 @@
+// Corners of the drawing's rules: numbers of 0 and below, marks in odd places, a disk that refuses, circles that meet.
+#include "geometry/board.h"
+#include "geometry/connect.h"
+#include "geometry/geofile.h"
+#include "geometry/report.h"
+#include "geometry/rules.h"
+#include "geometry/store.h"
+#include "geometry/tangentmend.h"
+#include "geometry/viewport.h"
+#include "unit/failing.h"
+#include "unit/geometryrecords.h"
+#include "unit/testfolder.h"
+
+#include <gtest/gtest.h>
+
+#include <array>
+#include <cerrno>
+#include <filesystem>
+#include <limits>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace brindlex::geometry {
+namespace {
+
+namespace fs = std::filesystem;
+using Lines = std::vector<std::string>;
+
+constexpr double Infinity = std::numeric_limits<double>::infinity();
+const std::string In(10, ' ');
+
+TEST(GeometryBoardEdges, NothingHasANumberOfNoKind) {
+    Board board;
+    board.EnterPoint({1, 2}, 5, {10, -10});
+    EXPECT_TRUE(board.Has(Kind::Point, 5));
+    EXPECT_FALSE(board.Has(Kind::None, 5));
+    EXPECT_EQ(board.Count(Kind::None), 0);
+}
+
+TEST(GeometryConnectEdges, ALineWithoutAKindIsNoEntity) {
+    const Lines lines{" 1  scribble", PointRecord(1, "3", "4"), PointRecord(2, "5", "6")};
+    const std::vector<Segment> found = Connect(lines, {Kind::Point, "1"}, {Kind::Point, "2"}, Tangents::AsRuled);
+    ASSERT_EQ(found.size(), 1U);
+    EXPECT_EQ(found[0].Start.X, 3);
+    EXPECT_EQ(found[0].Start.Y, 4);
+    EXPECT_EQ(found[0].End.X, 5);
+    EXPECT_EQ(found[0].End.Y, 6);
+}
+
+TEST(GeometryConnectEdges, ACircleThatIsNotThereIsAPointAtTheOrigin) {
+    const Lines lines{PointRecord(2, "5", "6")};
+    const std::vector<Segment> found = Connect(lines, {Kind::Circle, "1"}, {Kind::Point, "2"}, Tangents::AsRuled);
+    ASSERT_EQ(found.size(), 2U);
+    for (const Segment& line : found) {
+        EXPECT_EQ(line.Start.X, 0);
+        EXPECT_EQ(line.Start.Y, 0);
+        EXPECT_EQ(line.End.X, 5);
+        EXPECT_EQ(line.End.Y, 6);
+    }
+}
+
+// What follows the lines that every block has.
+
+TEST(GeometryReportEdges, ATangentCircleWithoutPartners) {
+    const std::string line = At({{1, "-1"}, {15, " 2"}, {43, " 0"}, {71, " 0"}, {99, "Circle Tangent"}});
+    EXPECT_EQ(ReportText({line}, Unit::Inch, {}), "Scale: Inches\r\n\r\n-1 Circle:\r\n" + In + "Center X  0,  Y 0\r\n" +
+                                                      In + "Diameter:  2\r\n" + In + "Radius:  1\r\n" + In +
+                                                      "Area:  3.14159265358979\r\n" + In +
+                                                      "Circumference:  6.28318530717959\r\n\r\n");
+}
+
+std::string LevelLine(const std::string& number, const std::string& tail) {
+    return At({{1, number}, {15, " 0"}, {43, " 0"}, {71, " 3"}, {99, " 0"}, {127, "Line Tangent"}, {155, tail}});
+}
+
+std::string LevelBlock(const std::string& partners) {
+    return "Scale: Inches\r\n\r\n 1 Line:\r\n" + In + "Start: X  0,  Y  0\r\n" + In + "End: X  3,  Y  0\r\n" + In +
+           "Length:  3\r\n" + In + "Angle:  0" + partners + "\r\n\r\n";
+}
+
+TEST(GeometryReportEdges, ACommaAmongTheFirstColumns) {
+    EXPECT_EQ(ReportText({LevelLine(" 1,", "")}, Unit::Inch, {}),
+              LevelBlock("\r\n" + In + "Intersects Line  1 at: X  0,  Y  0"));
+    EXPECT_EQ(ReportText({LevelLine(" 1 ,", "")}, Unit::Inch, {}),
+              LevelBlock("\r\n" + In + "Intersects Line  1 at: X  0,  Y  0"));
+}
+
+TEST(GeometryReportEdges, PartnersThatAreNotThereHaveNoKind) {
+    EXPECT_EQ(ReportText({LevelLine(" 1", " 7  , 8 ")}, Unit::Inch, {}),
+              LevelBlock("\r\n" + In + "  7 at: X  0,  Y  0\r\n" + In + "  8 at: X  3,  Y  0"));
+}
+
+TEST(GeometryRulesEdges, ARecordOfNumberZeroStays) {
+    const Lines zero{PointLine(0, "1", "1")};
+    EXPECT_EQ(WithoutItems(zero, {" 0" + std::string(15, ' ') + "/Point"}), zero);
+    EXPECT_EQ(WithoutCandidates(zero, {"0", ""}), zero);
+}
+
+TEST(GeometryStoreEdges, ALoneReturnEndsALine) {
+    const TestFolder folder;
+    folder.Put("geometry.dat", "left\r");
+    EXPECT_TRUE(Store(folder.Files()).Append("new"));
+    EXPECT_EQ(folder.Get("geometry.dat"), "left\rnew\r\n");
+}
+
+TEST(GeometryStoreEdges, AnAppendGoesOnWhereTheEndCannotBeLookedAt) {
+    const TestFolder folder;
+    folder.Put("geometry.dat", "left");
+    bool appended = false;
+    {
+        const NoDescriptors one(1);
+        appended = Store(folder.Files()).Append("new");
+    }
+    EXPECT_TRUE(appended);
+    EXPECT_EQ(folder.Get("geometry.dat"), "leftnew\r\n");
+}
+
+TEST(GeometryStoreEdges, BeginningTellsWhatItCouldNotMake) {
+    const TestFolder folder;
+    const Folder gone(folder.Path() / "gone");
+    EXPECT_FALSE(Store(gone).Begin());
+    EXPECT_TRUE(Store(folder.Files()).Begin());
+    EXPECT_EQ(folder.Names(), (Lines{"aaaa.tmp", "geometry.dat"}));
+    fs::remove(folder.Path() / "aaaa.tmp");
+    fs::create_directory(folder.Path() / "aaaa.tmp");
+    EXPECT_FALSE(Store(folder.Files()).Begin());
+    fs::remove(folder.Path() / "aaaa.tmp");
+    fs::remove(folder.Path() / "geometry.dat");
+    fs::create_directory(folder.Path() / "geometry.dat");
+    EXPECT_FALSE(Store(folder.Files()).Begin());
+}
+
+TEST(GeometryStoreEdges, ARepairThatCannotBeWritten) {
+    const TestFolder folder;
+    folder.Put("geometry.dat", "a note\r\n");
+    const Store store(folder.Files());
+    EXPECT_TRUE(store.CheckTangents());
+    const Failing failing("rename", EACCES);
+    EXPECT_FALSE(store.CheckTangents());
+    EXPECT_EQ(folder.Get("geometry.dat"), "a note\r\n");
+}
+
+TEST(GeometryStoreEdges, OwnsTheDrawingAndItsScratchFiles) {
+    const TestFolder folder;
+    const Store store(folder.Files());
+    for (const char* const name : {"geometry.dat", "aaaa.tmp", "./geometry.dat"}) {
+        EXPECT_TRUE(store.Owns(name)) << name;
+    }
+    for (const char* const name : {"aaaa.dat", "geometry.geo", "sub/geometry.dat", ""}) {
+        EXPECT_FALSE(store.Owns(name)) << name;
+    }
+}
+
+TEST(GeometryGeoFileEdges, WhatCannotBeRecovered) {
+    const TestFolder folder;
+    const std::string point = PointLine(1, "0", "0") + "\r\n";
+    folder.Put("geometry.dat", point);
+    {
+        const Failing full("write", ENOSPC);
+        const Failing refused("rename", EACCES);
+        EXPECT_EQ(RecoverLeftOver(folder.Files()), std::nullopt);
+    }
+    EXPECT_EQ(folder.Names(), Lines{"geometry.dat"});
+    {
+        const Failing full("write", ENOSPC);
+        EXPECT_EQ(RecoverLeftOver(folder.Files()), "recovered.geo");
+    }
+    EXPECT_EQ(folder.Names(), Lines{"recovered.geo"});
+    EXPECT_EQ(folder.Get("recovered.geo"), point);
+}
+
+// Lines along the axes: the four circles of radius 1 have their centres at (+-1, +-1).
+
+void ExpectAt(Position found, Position expected, std::size_t circle) {
+    EXPECT_NEAR(found.X, expected.X, 1e-15) << circle;
+    EXPECT_NEAR(found.Y, expected.Y, 1e-15) << circle;
+}
+
+void ExpectMended(std::array<TangentCircle, 4> circles, const std::array<Position, 4>& centres) {
+    const LinePair axes{{{-5, 0}, {5, 0}}, {{0, -5}, {0, 5}}};
+    MendCircles(circles, axes, {0, 0}, 1);
+    for (std::size_t i = 0; i < circles.size(); ++i) {
+        ExpectAt(circles[i].Centre, centres[i], i);
+        ExpectAt(circles[i].OnA, {centres[i].X, 0}, i);
+        ExpectAt(circles[i].OnB, {0, centres[i].Y}, i);
+    }
+}
+
+TEST(GeometryTangentMendEdges, CirclesInOneSectorSpreadOverTheFreeOnes) {
+    const TangentCircle good{{1, 1}, {1, 0}, {0, 1}};
+    ExpectMended({good, good, good, good}, {{{1, 1}, {1, -1}, {-1, 1}, {-1, -1}}});
+    const TangentCircle low{{-1, -1}, {-1, 0}, {0, -1}};
+    ExpectMended({low, low, good, low}, {{{-1, -1}, {1, -1}, {1, 1}, {-1, 1}}});
+}
+
+TEST(GeometryTangentMendEdges, ACircleThatTouchesOneLineOnly) {
+    const TangentCircle one{{1, 1}, {1, 0}, {0, 1}};
+    const TangentCircle two{{1, -1}, {1, 0}, {0, -1}};
+    const TangentCircle three{{-1, 1}, {-1, 0}, {0, 1}};
+    // The last one touches A, the first one B; each goes into the sector that is left.
+    ExpectMended({one, two, three, {{3, 1}, {3, 0}, {0, 1}}}, {{{1, 1}, {1, -1}, {-1, 1}, {-1, -1}}});
+    ExpectMended({TangentCircle{{1, 4}, {1, 0}, {0, 4}}, two, three, {{-1, -1}, {-1, 0}, {0, -1}}},
+                 {{{1, 1}, {1, -1}, {-1, 1}, {-1, -1}}});
+}
+
+TEST(GeometryTangentMendEdges, PointsThatMissBecomeFeet) {
+    // On its line, but not on the circle; and on the circle, but not on its line.
+    const TangentCircle missesA{{1, 1}, {3, 0}, {0, 1}};
+    const TangentCircle missesB{{1, -1}, {1, 0}, {1, -2}};
+    ExpectMended({missesA, missesB, {{-1, 1}, {-1, 0}, {0, 1}}, {{-1, -1}, {-1, 0}, {0, -1}}},
+                 {{{1, 1}, {1, -1}, {-1, 1}, {-1, -1}}});
+}
+
+TEST(GeometryViewportEdges, WhatIsBeyondTheRangeIsLeftOut) {
+    Board board;
+    const Scale scale{10, -10};
+    board.EnterPoint({0, 1e308}, 1, scale);
+    board.EnterPoint({1e308, 0}, 2, scale);
+    board.EnterPoint({2, 3}, 3, scale);
+    Extents extents;
+    GetExtents(extents, board, Unit::Inch);
+    // 5 to the right and 5 down in the picture, and half a cross of .0884 to each side.
+    EXPECT_NEAR(extents.MinX, 7 - .0884, 1e-12);
+    EXPECT_NEAR(extents.MaxX, 7 + .0884, 1e-12);
+    EXPECT_NEAR(extents.MinY, -2 - .0884, 1e-12);
+    EXPECT_NEAR(extents.MaxY, -2 + .0884, 1e-12);
+}
+
+TEST(GeometryViewportEdges, AScrollValueThatIsNoNumberIsZero) {
+    EXPECT_EQ(ScrollRangesFor({Infinity, Infinity, Infinity, Infinity}, {Infinity, Infinity}),
+              (ScrollRanges{20, -20, -20, 20}));
+    EXPECT_EQ(ScrollRangesFor({-1e9, 1e9, -1e9, 1e9}, {2, 2}), (ScrollRanges{32767, -32768, -32768, 32767}));
+}
+
+}  // namespace
+}  // namespace brindlex::geometry
