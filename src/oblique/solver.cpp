@@ -188,6 +188,10 @@ double& Triangle::Kept(Element element) {
     return this->*KeptMembers[Index(element)];
 }
 
+double Triangle::Kept(Element element) const {
+    return this->*KeptMembers[Index(element)];
+}
+
 std::string_view LabelOf(Element element) {
     return Labels[Index(element)];
 }

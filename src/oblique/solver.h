@@ -48,6 +48,7 @@ struct Triangle {
     [[nodiscard]] double& Working(Element element);
     [[nodiscard]] double Working(Element element) const;
     [[nodiscard]] double& Kept(Element element);
+    [[nodiscard]] double Kept(Element element) const;
     /// Whether a calculation has been accepted.
     [[nodiscard]] bool HasResult() const { return KeptB != 0 || KeptC != 0; }
 };

@@ -5,12 +5,12 @@ FILES = [
     "src/boltcircle/report.cpp",
     *(f"src/geometry/{name}.cpp" for name in (
         "board", "connect", "crossings", "drawpass", "extend", "geofile", "pairlists", "record", "report", "rules",
-        "store", "tangentcircles", "tangentmend", "tips", "unitchange", "viewport")),
+        "store", "tangentcircles", "tangentmend", "tips", "unit", "unitchange", "viewport")),
     *(f"src/speedsfeeds/{name}.cpp" for name in (
         "calculation", "calculationchecks", "captions", "ranges", "record", "store")),
     "src/frame/checked.h",
-    *(f"src/frame/{name}.cpp" for name in ("fault", "fontwidths", "rewrite", "text", "textfile")),
+    *(f"src/frame/{name}.cpp" for name in ("checked", "fault", "fontwidths", "rewrite", "text", "textfile")),
     *(f"src/services/{name}.cpp" for name in (
         "activebox", "degrees", "documents", "filters", "minutesdialog", "printing", "rounddialog", "rounding",
-        "settings")),
+        "settings", "words")),
 ]

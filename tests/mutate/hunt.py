@@ -10,7 +10,6 @@ import subprocess
 import sys
 import tempfile
 import threading
-import time
 from concurrent import futures
 
 TESTS = pathlib.Path(__file__).resolve().parent.parent
@@ -19,16 +18,15 @@ import run_scripts  # pylint: disable=wrong-import-position
 
 FAILED = re.compile(rb"\[  FAILED  \] ([\w/]+\.[\w/]+)")
 MEGABYTE = 1 << 20
-SECONDS_MORE = 3      # of a processor, beyond ten times what the tests take with all mutants asleep
+SECONDS_MORE = 2      # of a processor, beyond three times what the tests take with all mutants asleep
 WALL_SECONDS = 300
 FIRST = 25            # unit tests in the first run for a mutant
-CHUNK = 400           # and in each one after it
+CHUNK = 100           # and in each one after it
 
 
 def limits(seconds):
     """A mutant may turn in circles, fill the memory or fill the disk."""
     def apply():
-        os.nice(0)
         resource.setrlimit(resource.RLIMIT_CPU, (seconds, seconds + 1))
         resource.setrlimit(resource.RLIMIT_AS, (2048 * MEGABYTE, 2048 * MEGABYTE))
         resource.setrlimit(resource.RLIMIT_FSIZE, (64 * MEGABYTE, 64 * MEGABYTE))
@@ -50,7 +48,7 @@ class Pack:
         self.early = {"unit": set(), "script": set()}
 
     def run(self, command, variables, cpu_seconds):
-        """(ended well, what it said) in a fresh folder."""
+        """(ended well, what it said, seconds of a processor) in a fresh folder."""
         with tempfile.TemporaryDirectory(prefix="brindlex-mutant-", dir="/dev/shm") as folder:
             home, working = pathlib.Path(folder, "home"), pathlib.Path(folder, "work")
             home.mkdir(mode=0o700)
@@ -58,13 +56,14 @@ class Pack:
             environment = run_scripts.environment_of(home, "headless")
             environment.update(variables, TMPDIR=str(home))
             command = [part.replace("WORKING", str(working)) for part in command]
-            try:
-                done = subprocess.run(command, cwd=working, env=environment, stdin=subprocess.DEVNULL,
-                                      stdout=subprocess.PIPE, stderr=subprocess.STDOUT, timeout=WALL_SECONDS,
-                                      check=False, preexec_fn=limits(int(cpu_seconds) + 1))
-            except subprocess.TimeoutExpired as expired:
-                return False, expired.stdout or b""
-            return done.returncode == 0, done.stdout
+            command = ["timeout", "-s", "KILL", str(WALL_SECONDS), *command]
+            with open(folder + "/said", "w+b") as said:
+                process = subprocess.Popen(command, cwd=working, env=environment, stdin=subprocess.DEVNULL,
+                                           stdout=said, stderr=said, preexec_fn=limits(int(cpu_seconds) + 1))
+                _, status, usage = os.wait4(process.pid, 0)
+                process.returncode = os.waitstatus_to_exitcode(status)
+                said.seek(0)
+                return process.returncode == 0, said.read(), usage.ru_utime + usage.ru_stime
 
     def command(self, test):
         if test.startswith("script "):
@@ -87,9 +86,7 @@ class Pack:
     def noted(self, command, cpu_seconds=60):
         """(ended well, the numbers it came by, seconds)"""
         with tempfile.NamedTemporaryFile(dir="/dev/shm") as file:
-            before = time.monotonic()
-            good, _ = self.run(command, {"BRINDLEX_REACH": file.name}, cpu_seconds)
-            took = time.monotonic() - before
+            good, _, took = self.run(command, {"BRINDLEX_REACH": file.name}, cpu_seconds)
             numbers = {i for i, byte in enumerate(pathlib.Path(file.name).read_bytes()) if byte}
         return good, numbers, took
 
@@ -137,8 +134,8 @@ class Pack:
 class Hunt:
     """What became of each mutant."""
 
-    def __init__(self, pack, mutants):
-        self.pack = pack
+    def __init__(self, pack, mutants, most_scripts=None):
+        self.pack, self.most_scripts = pack, most_scripts
         self.mutants = mutants
         self.of_file = collections.defaultdict(set)
         for mutant in mutants:
@@ -168,17 +165,17 @@ class Hunt:
         with self.lock:
             likely = [test for test in ([first] if first else []) + list(self.killers[mutant.file]) if test in tests]
         units = [test for test in tests if not test.startswith("script ")]
-        scripts = [test for test in tests if test.startswith("script ")]
+        scripts = [test for test in tests if test.startswith("script ")][:self.most_scripts]
         likely_units = [test for test in dict.fromkeys(likely) if test in set(units)]
         head = list(dict.fromkeys(likely_units[:10] + units[:FIRST]))
-        rest = [test for test in units if test not in set(head)]
+        rest = sorted((test for test in units if test not in set(head)), key=self.pack.seconds.get)
         for chunk in [head] + [rest[i:i + CHUNK] for i in range(0, len(rest), CHUNK)]:
             killer = self.run_units(mutant, chunk)
             if killer:
                 return self.remember(mutant, killer)
         for test in dict.fromkeys([test for test in likely if test in set(scripts)] + scripts):
-            good, _ = self.pack.run(self.pack.command(test), {"BRINDLEX_MUTANT": str(mutant.number)},
-                                    SECONDS_MORE + 10 * self.pack.seconds[test])
+            good, *_ = self.pack.run(self.pack.command(test), {"BRINDLEX_MUTANT": str(mutant.number)},
+                                     SECONDS_MORE + 3 * self.pack.seconds[test])
             if not good:
                 return self.remember(mutant, test)
         return ""
@@ -188,7 +185,7 @@ class Hunt:
             return None
         command = self.pack.command(":".join(tests)) + ["--gtest_fail_fast"]
         seconds = SECONDS_MORE + 3 * sum(self.pack.seconds[test] for test in tests)
-        good, said = self.pack.run(command, {"BRINDLEX_MUTANT": str(mutant.number)}, min(seconds, 60))
+        good, said, _ = self.pack.run(command, {"BRINDLEX_MUTANT": str(mutant.number)}, seconds)
         if good:
             return None
         named = FAILED.search(said)

@@ -8,6 +8,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <array>
 #include <cerrno>
 #include <filesystem>
 #include <limits>
@@ -48,6 +49,64 @@ TEST_F(PassEdges, AnEntityInTheBoxAndUnderThePointerIsPickedOnce) {
     EXPECT_EQ(picked, 1);
     EXPECT_EQ(pass.Pick.Shape, Kind::Point);
     EXPECT_EQ(pass.Marks.Hits.Points, (std::vector<int>{0, 0}));
+}
+
+TEST_F(PassEdges, APickedNumberIsOfSixteenBits) {
+    const struct {
+        double number;
+        int picked;
+    } cases[] = {{32766, 32766}, {32767, 32767}, {40000, 32767}, {1e300, 32767}, {-32767, -32767}, {-40000, -32767}};
+    for (const auto& c : cases) {
+        board = {};
+        board.EnterPoint({5, 5}, c.number, scale);
+        pass.View.Picking = true;
+        pass.View.PointerOver = true;
+        pass.View.Pointer = {5, 5};
+        pass.Pick = {};
+        pass.PointStuff();
+        EXPECT_EQ(pass.Pick.Number, c.picked);
+    }
+}
+
+TEST_F(PassEdges, ABoxHoldsItsEdges) {
+    for (const PickBox& box : {PickBox{1, 2, 5, 8}, PickBox{5, 8, 1, 2}, PickBox{5, 2, 1, 8}}) {
+        for (const Position inside : {Position{1, 2}, {5, 8}, {1, 8}, {5, 2}, {1, 5}, {5, 5}, {3, 2}, {3, 8}}) {
+            EXPECT_TRUE(box.Holds(inside)) << inside.X << ' ' << inside.Y;
+        }
+        for (const Position outside : {Position{0.9, 5}, {5.1, 5}, {3, 1.9}, {3, 8.1}}) {
+            EXPECT_FALSE(box.Holds(outside)) << outside.X << ' ' << outside.Y;
+        }
+    }
+}
+
+TEST_F(PassEdges, TheCrossReachesOverTheWholeView) {
+    pass.CrossHairs();
+    const std::vector<DrawItem> items(picture.Drawn().Items().begin(), picture.Drawn().Items().end());
+    ASSERT_EQ(items.size(), 2U);
+    const auto ends = [&](std::size_t i) { return std::array{items[i].X1, items[i].Y1, items[i].X2, items[i].Y2}; };
+    EXPECT_EQ(ends(0), (std::array<double, 4>{10, 10, 10, -10}));
+    EXPECT_EQ(ends(1), (std::array<double, 4>{-10, -10, 10, -10}));
+    EXPECT_EQ(items[0].DrawStyle, 4);
+    EXPECT_EQ(items[1].DrawStyle, 4);
+    EXPECT_EQ(picture.DrawStyle(), 0);
+}
+
+TEST_F(PassEdges, EachPassAsksTheFilterAnew) {
+    board.EnterCircle({0, 0}, 1, 7, scale);
+    board.EnterLine({{0, 0}, {1, 1}}, 7, scale);
+    board.EnterPoint({5, 5}, 7, scale);
+    for (void (DrawPass::*const stuff)() : {&DrawPass::CircleStuff, &DrawPass::LineStuff, &DrawPass::PointStuff}) {
+        picture.Cls();
+        DrawPass fresh(picture, board);
+        fresh.Calls.Filter = [] { return PassFilter{PassFilter::Rule::Hide, {7}}; };
+        (fresh.*stuff)();
+        EXPECT_TRUE(picture.Drawn().Items().empty());
+        fresh.Calls.Filter = [] { return PassFilter{PassFilter::Rule::Only, {7}}; };
+        fresh.Calls.NamedNumbers = [] { return std::array<double, 6>{7}; };
+        (fresh.*stuff)();
+        EXPECT_FALSE(picture.Drawn().Items().empty());
+        EXPECT_EQ(fresh.Marks.Ink, ink::Named);
+    }
 }
 
 TEST_F(PassEdges, NobodyNeedListen) {
@@ -118,7 +177,7 @@ TEST_F(FileEdges, ThePictureFollowsScrollBarsThatStay) {
 }
 
 TEST_F(FileEdges, ADrawingThatCannotBeReadIsNotConverted) {
-    PlacePoint("1", "1");
+    PlaceCircle("1", "1", "1");
     BlockTheStore();
     EXPECT_TRUE(form->ChooseByPerson(form->MM));
     EXPECT_EQ(Messages(), std::vector<std::string>{NotConverted});
@@ -126,7 +185,7 @@ TEST_F(FileEdges, ADrawingThatCannotBeReadIsNotConverted) {
 }
 
 TEST_F(FileEdges, ADrawingThatCannotBeWrittenIsNotConverted) {
-    PlacePoint("1", "1");
+    PlaceCircle("1", "1", "1");
     const std::string before = folder.Get("geometry.dat");
     const Failing failing("rename", EACCES);
     EXPECT_TRUE(form->ChooseByPerson(form->MM));
@@ -135,7 +194,7 @@ TEST_F(FileEdges, ADrawingThatCannotBeWrittenIsNotConverted) {
 }
 
 TEST_F(FileEdges, ADrawingThatCannotBeReadIsNotSaved) {
-    PlacePoint("1", "1");
+    PlaceCircle("1", "1", "1");
     BlockTheStore();
     run.Files.push_back("out.geo");
     EXPECT_TRUE(form->ChooseByPerson(form->SaveAs));

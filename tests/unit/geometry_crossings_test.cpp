@@ -53,6 +53,17 @@ TEST(GeometryCrossings, TheRatioIsRoundedForTheFirstListOnly) {
               Lines{PairText(" 1 ", " 2 ", " 99999999999999.9", " 0")});
     EXPECT_EQ(FindCrossings({LineLine(1, "100000000000000", "1", "100000000000000", "2"), longLine}).Potential,
               Lines{PairText(" 1 ", " 2 ", " 100000000000000", " 0")});
+    // The same upright.
+    const std::string highLine = LineLine(2, "0", "0", "0", "900000000000000");
+    EXPECT_EQ(FindCrossings({LineLine(1, "-1", "100000000000000", "1", "100000000000000"), highLine}).Crossing,
+              Lines{PairText(" 1 ", " 2 ", " 0", " 99999999999999.9")});
+    EXPECT_EQ(FindCrossings({LineLine(1, "1", "100000000000000", "2", "100000000000000"), highLine}).Potential,
+              Lines{PairText(" 1 ", " 2 ", " 0", " 100000000000000")});
+    // At 1/90 fifteen decimals are fourteen digits: .011111111111111.
+    EXPECT_EQ(FindCrossings({LineLine(1, "100000000000000", "-1", "100000000000000", "1"),
+                             LineLine(2, "0", "0", "9000000000000000", "0")})
+                  .Crossing,
+              Lines{PairText(" 1 ", " 2 ", " 99999999999999", " 0")});
 }
 
 TEST(GeometryCrossings, EqualNumbersMakeNoPair) {
@@ -85,6 +96,8 @@ TEST(GeometryCrossings, ReadsItems) {
     EXPECT_EQ(pair.NumberB, 4);
     EXPECT_EQ(pair.Crossing.X, -1.5);
     EXPECT_EQ(pair.Crossing.Y, 2e-5);
+    EXPECT_EQ(ReadPair("12,34/5\\6").NumberA, 12);
+    EXPECT_EQ(ReadPair("12,34/5\\6").NumberB, 34);
     for (const char* text : {"", ",", "/", "\\", "\\/,", "no item"}) {
         EXPECT_EQ(ReadPair(text).NumberA + ReadPair(text).NumberB, 0) << text;
         EXPECT_EQ(ReadPair(text).Crossing.X, 0) << text;

@@ -60,6 +60,27 @@ TEST(GeometryConnectEdges, ACircleThatIsNotThereIsAPointAtTheOrigin) {
     }
 }
 
+bool Touches(double radius, Position centre, const Segment& line) {
+    const Lines lines{CircleRecord(1, 2 * radius, std::to_string(centre.X), std::to_string(centre.Y))};
+    return EveryLineTouches(lines, {Kind::Circle, "1"}, {Kind::Point, "2"}, {line});
+}
+
+TEST(GeometryConnectEdges, TheToleranceIsAPartOfTheRadius) {
+    EXPECT_TRUE(Touches(1000, {0, 0}, {{1000.0001, 0}, {1000.0001, 5}}));
+    EXPECT_FALSE(Touches(1000, {0, 0}, {{1000.01, 0}, {1000.01, 5}}));
+    EXPECT_TRUE(Touches(.001, {0, 0}, {{.001, 0}, {.001, 5}}));
+    EXPECT_FALSE(Touches(.001, {0, 0}, {{.0011, 0}, {.0011, 5}}));
+    // A circle without a radius is touched by what goes through its centre, a line without a length too.
+    EXPECT_TRUE(Touches(0, {1, 2}, {{1, 2}, {1, 2}}));
+    EXPECT_FALSE(Touches(0, {1, 2}, {{1, 3}, {1, 3}}));
+}
+
+TEST(GeometryConnectEdges, AVeryShortLineIsItsStart) {
+    // Its direction, through the centre, says nothing: it is shorter than a billionth of the radius.
+    EXPECT_TRUE(Touches(1000, {0, 0}, {{1000, 0}, {1000.00000001, 0}}));
+    EXPECT_FALSE(Touches(1000, {0, 0}, {{1000, 0}, {1000.00001, 0}}));
+}
+
 // What follows the lines that every block has.
 
 TEST(GeometryReportEdges, ATangentCircleWithoutPartners) {
@@ -79,6 +100,32 @@ std::string LevelBlock(const std::string& partners) {
            "Length:  3\r\n" + In + "Angle:  0" + partners + "\r\n\r\n";
 }
 
+TEST(GeometryReportEdges, SixColumnsBeforeTheCommaAreThePartner) {
+    const auto report = [](const std::string& pair) {
+        return ReportText({At({{1, " 3"}, {15, " 2"}, {43, " 0"}, {71, " 0"}, {99, "Circle Tangent"}, {127, pair}})},
+                          Unit::Inch, {});
+    };
+    EXPECT_NE(report("9 12345,").find("Tangent to   12345 at:"), std::string::npos) << report("9 12345,");
+    EXPECT_NE(report("9123456,").find("Tangent to   123456 at:"), std::string::npos) << report("9123456,");
+    EXPECT_NE(report(",123456").find("Tangent to   123456 at:"), std::string::npos) << report(",123456");
+}
+
+TEST(GeometryReportEdges, ACrossingWithoutACommaHasNoFirstLine) {
+    const std::string line = LineLine(7, "0", "0", "3", "0");
+    const std::string block = "Scale: Inches\r\n\r\n 7 Line:\r\n" + In + "Start: X  0,  Y  0\r\n" + In +
+                              "End: X  3,  Y  0\r\n" + In + "Length:  3\r\n" + In + "Angle:  0";
+    EXPECT_EQ(ReportText({line}, Unit::Inch, {"7" + std::string(20, ' ') + "/1\\2"}),
+              block + "\r\n" + In + "Intersects Line  0 at X  1,  Y  2\r\n\r\n");
+    EXPECT_EQ(ReportText({line}, Unit::Inch, {"7", ""}), block + "\r\n\r\n");
+}
+
+TEST(GeometryReportEdges, SevenColumnsBehindTheWordAreThePartner) {
+    const std::string line =
+        At({{1, " 1"}, {15, " 0"}, {43, " 0"}, {71, " 3"}, {99, " 0"}, {127, "Line Tangent1234567890"}});
+    EXPECT_EQ(ReportText({line}, Unit::Inch, {}),
+              LevelBlock("\r\n" + In + "  1234567 at: X  0,  Y  0\r\n" + In + "  890 at: X  3,  Y  0"));
+}
+
 TEST(GeometryReportEdges, ACommaAmongTheFirstColumns) {
     EXPECT_EQ(ReportText({LevelLine(" 1,", "")}, Unit::Inch, {}),
               LevelBlock("\r\n" + In + "Intersects Line  1 at: X  0,  Y  0"));
@@ -89,6 +136,19 @@ TEST(GeometryReportEdges, ACommaAmongTheFirstColumns) {
 TEST(GeometryReportEdges, PartnersThatAreNotThereHaveNoKind) {
     EXPECT_EQ(ReportText({LevelLine(" 1", " 7  , 8 ")}, Unit::Inch, {}),
               LevelBlock("\r\n" + In + "  7 at: X  0,  Y  0\r\n" + In + "  8 at: X  3,  Y  0"));
+}
+
+TEST(GeometryRulesEdges, NumberZeroIsNobodysPartner) {
+    const std::string tangent = At({{1, " 3"},
+                                    {15, " 2"},
+                                    {43, " 0"},
+                                    {71, " 0"},
+                                    {99, "Circle Tangent"},
+                                    {127, "   0  ,  1 "},
+                                    {155, "# 1$ 2^ 3& 4"}});
+    const Lines lines{PointLine(0, "1", "1"), PointLine(1, "2", "2"), tangent};
+    EXPECT_EQ(CheckTangents(lines), (Lines{lines[0], lines[1], RepairedRecord(tangent, false, true)}));
+    EXPECT_NE(RepairedRecord(tangent, false, true), tangent);
 }
 
 TEST(GeometryRulesEdges, ARecordOfNumberZeroStays) {
@@ -150,6 +210,7 @@ TEST(GeometryStoreEdges, OwnsTheDrawingAndItsScratchFiles) {
     for (const char* const name : {"aaaa.dat", "geometry.geo", "sub/geometry.dat", ""}) {
         EXPECT_FALSE(store.Owns(name)) << name;
     }
+    EXPECT_FALSE(store.Owns(std::string_view("geometry.dat\0", 13)));
 }
 
 TEST(GeometryGeoFileEdges, WhatCannotBeRecovered) {
@@ -210,6 +271,21 @@ TEST(GeometryTangentMendEdges, PointsThatMissBecomeFeet) {
     const TangentCircle missesB{{1, -1}, {1, 0}, {1, -2}};
     ExpectMended({missesA, missesB, {{-1, 1}, {-1, 0}, {0, 1}}, {{-1, -1}, {-1, 0}, {0, -1}}},
                  {{{1, 1}, {1, -1}, {-1, 1}, {-1, -1}}});
+}
+
+TEST(GeometryViewportEdges, ALineReachesFromEndToEnd) {
+    // In the picture all stands 1 to the right and 3 down.
+    const Scale scale{2, -6};
+    for (const Segment& line : {Segment{{9, 2}, {4, 30}}, {{4, 30}, {9, 2}}, {{4, 2}, {9, 30}}, {{9, 30}, {4, 2}}}) {
+        Board board;
+        board.EnterLine(line, 1, scale);
+        Extents extents;
+        GetExtents(extents, board, Unit::Inch);
+        EXPECT_EQ(extents, (Extents{5, 10, -1, 27}));
+        board.EnterCircle({3, 20}, 1, 2, scale);
+        GetExtents(extents, board, Unit::Inch);
+        EXPECT_EQ(extents, (Extents{3, 10, -1, 27}));
+    }
 }
 
 TEST(GeometryViewportEdges, WhatIsBeyondTheRangeIsLeftOut) {

@@ -26,6 +26,15 @@ struct ExtendCase {
     Lines Result;
 };
 
+TEST(GeometryExtend, FiveColumnsAreTheNumber) {
+    const Lines store{LineLine(1234, "0", "0", "1", "0"), LineLine(5678, "3", "2", "3", "5")};
+    EXPECT_EQ(Extend(store, PairText(" 1234", " 5678", " 3", " 0")),
+              (Lines{LineLine(1234, " 0", " 0", " 3", " 0"), LineLine(5678, " 3", " 5", " 3", " 0")}));
+    // Of a number of five digits and its blank the last digit is cut off.
+    const Lines wide{LineLine(12345, "0", "0", "1", "0"), LineLine(2, "3", "2", "3", "5")};
+    EXPECT_EQ(Extend(wide, PairText(" 12345", " 2 ", " 3", " 0")), std::nullopt);
+}
+
 TEST(GeometryExtend, EveryRow) {
     const ExtendCase cases[] = {
         {"far end of A, near end of B",

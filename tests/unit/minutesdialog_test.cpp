@@ -138,6 +138,8 @@ TEST_F(MinutesDialog, OpensWithItsTexts) {
         Open(pair, "30", [&](MinutesSecondsDialog& dialog) {
             EXPECT_EQ(dialog.Name(), pair.dialog);
             EXPECT_EQ(dialog.DialogOf(), pair.owner);
+            EXPECT_EQ(dialog.InnerWidth(), 4665);
+            EXPECT_EQ(dialog.InnerHeight(), 1695);
             EXPECT_EQ(dialog.Caption(), "Brindlex 3.0.2- Add Minutes And Seconds");
             EXPECT_EQ(dialog.Label1.Caption(), dialog.Name() == "Form15" ? "Degrees" : "Required Angle:");
             EXPECT_EQ(dialog.Label2.Caption(), "Minutes");

@@ -53,6 +53,8 @@ TEST_F(RoundDialog, ShowsTheDigitsOfItsOwner) {
         RoundNumbersDialog& dialog = Dialog(c.form);
         dialog.Load();
         EXPECT_EQ(dialog.DialogOf(), c.owner);
+        EXPECT_EQ(dialog.InnerWidth(), 4365);
+        EXPECT_EQ(dialog.InnerHeight(), 1455);
         EXPECT_EQ(dialog.Caption(), "Brindlex 3.0.2- Round Numbers");
         EXPECT_EQ(dialog.Label1.Caption(), c.label);
         EXPECT_EQ(dialog.Label2.Caption(), "Decimal Places");

@@ -1,7 +1,7 @@
 // Corners of the services that no calculator comes to: words of a Boolean, widths of characters, numbers beyond all.
 #include "frame/fontwidths.h"
 #include "frame/text.h"
-#include "services/documents.h"
+#include "services/words.h"
 #include "unit/faultof.h"
 
 #include <gtest/gtest.h>
@@ -46,6 +46,14 @@ TEST(FontWidths, CodesAroundTheTable) {
         EXPECT_NEAR(TextWidth(c.text, 10, false), c.regular, 1e-9) << c.text;
         EXPECT_NEAR(TextWidth(c.text, 10, true), c.bold, 1e-9) << c.text;
     }
+}
+
+TEST(Str, ExponentsAroundTen) {
+    EXPECT_EQ(Str(1e-8), " 1E-08");
+    EXPECT_EQ(Str(1e-9), " 1E-09");
+    EXPECT_EQ(Str(1e-10), " 1E-10");
+    EXPECT_EQ(Str(-2.5e-11), "-2.5E-11");
+    EXPECT_EQ(Str(1e99), " 1E+99");
 }
 
 TEST(Val, ExponentsBeyondAllCounting) {

@@ -70,6 +70,8 @@ TEST(CodePage, WhatItLacksIsAQuestionMark) {
     for (const auto& c : cases) {
         EXPECT_EQ(TextFromUtf8(c.utf8), c.text);
     }
+    // The last one of Latin-1, and the first one behind it.
+    EXPECT_EQ(TextFromUtf8("\xC3\xBF\xC4\x80\xC4\x81"), "\xFF??");
 }
 
 TEST(PrintLine, CommaMovesToTheNextZone) {
