@@ -213,22 +213,45 @@ TEST(GeometryStoreEdges, OwnsTheDrawingAndItsScratchFiles) {
     EXPECT_FALSE(store.Owns(std::string_view("geometry.dat\0", 13)));
 }
 
-TEST(GeometryGeoFileEdges, WhatCannotBeRecovered) {
-    const TestFolder folder;
+TEST(GeometryGeoFileEdges, WaysToRecover) {
+    constexpr int Always = 1000;
     const std::string point = PointLine(1, "0", "0") + "\r\n";
-    folder.Put("geometry.dat", point);
-    {
-        const Failing full("write", ENOSPC);
-        const Failing refused("rename", EACCES);
-        EXPECT_EQ(RecoverLeftOver(folder.Files()), std::nullopt);
+    // How often a write and a rename fail and whether the drawing can be read; the file that the drawing is in then.
+    const struct {
+        int writes;
+        int renames;
+        int reads;
+        const char* name;
+        std::string content;
+    } cases[] = {
+        {0, 0, 0, "recovered.geo", "I\r\n" + point},
+        {1, 0, 0, "recovered.geo", point},                 // the drawing itself takes the name
+        {0, Always, 0, "recovered.geo", "I\r\n" + point},  // written where it stands
+        {Always, Always, 0, nullptr, point},
+        {0, 0, Always, "recovered.geo", point},
+        {0, Always, Always, nullptr, point},
+    };
+    for (const auto& c : cases) {
+        const TestFolder folder;
+        folder.Put("geometry.dat", point);
+        std::optional<std::string> name;
+        {
+            const Failing full("write", ENOSPC, 1, c.writes);
+            const Failing refused("rename", EACCES, 1, c.renames);
+            const Failing torn("read", EIO, 1, c.reads);
+            name = RecoverLeftOver(folder.Files());
+        }
+        EXPECT_EQ(name, c.name == nullptr ? std::nullopt : std::optional<std::string>(c.name));
+        EXPECT_EQ(folder.Get(name.value_or("geometry.dat")), c.content) << c.writes << c.renames << c.reads;
+        EXPECT_EQ(folder.Files().Exists("recovered.geo"), name.has_value());
     }
+}
+
+TEST(GeometryGeoFileEdges, AFolderOfTheDrawingsNameIsNoDrawing) {
+    const TestFolder folder;
+    fs::create_directory(folder.Path() / "geometry.dat");
+    EXPECT_EQ(RecoverLeftOver(folder.Files()), std::nullopt);
     EXPECT_EQ(folder.Names(), Lines{"geometry.dat"});
-    {
-        const Failing full("write", ENOSPC);
-        EXPECT_EQ(RecoverLeftOver(folder.Files()), "recovered.geo");
-    }
-    EXPECT_EQ(folder.Names(), Lines{"recovered.geo"});
-    EXPECT_EQ(folder.Get("recovered.geo"), point);
 }
 
 // Lines along the axes: the four circles of radius 1 have their centres at (+-1, +-1).
