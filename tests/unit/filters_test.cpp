@@ -299,6 +299,7 @@ TEST_F(Filters, AFeedRangeTakesAPointOnEachSide) {
         {"002-.004", 3, 0, "002.-.004"},
         {"002-.004", 4, 0, nullptr},
         {".002-004", 5, 0, ".002-.004"},
+        {"2.-3", 4, 0, "2.-3."},
         // Over all of the text; over the point alone; over the minus, which joins the two sides.
         {".002-.004", 0, 9, "."},
         {".002-.004", 0, 1, nullptr},

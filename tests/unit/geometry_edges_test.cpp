@@ -6,6 +6,7 @@
 #include "geometry/rules.h"
 #include "geometry/store.h"
 #include "geometry/tangentmend.h"
+#include "geometry/tips.h"
 #include "geometry/viewport.h"
 #include "unit/failing.h"
 #include "unit/geometryrecords.h"
@@ -131,6 +132,11 @@ TEST(GeometryReportEdges, ACommaAmongTheFirstColumns) {
               LevelBlock("\r\n" + In + "Intersects Line  1 at: X  0,  Y  0"));
     EXPECT_EQ(ReportText({LevelLine(" 1 ,", "")}, Unit::Inch, {}),
               LevelBlock("\r\n" + In + "Intersects Line  1 at: X  0,  Y  0"));
+}
+
+TEST(GeometryReportEdges, FourColumnsBeforeTheCommaAreALinesPartner) {
+    EXPECT_EQ(ReportText({LevelLine(" 1", "91234, 5")}, Unit::Inch, {}),
+              LevelBlock("\r\n" + In + "  1234 at: X  0,  Y  0\r\n" + In + "  5 at: X  3,  Y  0"));
 }
 
 TEST(GeometryReportEdges, PartnersThatAreNotThereHaveNoKind) {
@@ -286,6 +292,27 @@ TEST(GeometryTangentMendEdges, ACircleThatTouchesOneLineOnly) {
     ExpectMended({one, two, three, {{3, 1}, {3, 0}, {0, 1}}}, {{{1, 1}, {1, -1}, {-1, 1}, {-1, -1}}});
     ExpectMended({TangentCircle{{1, 4}, {1, 0}, {0, 4}}, two, three, {{-1, -1}, {-1, 0}, {0, -1}}},
                  {{{1, 1}, {1, -1}, {-1, 1}, {-1, -1}}});
+}
+
+TEST(GeometryTangentMendEdges, ACircleWithoutARadiusTouchesInItsCentre) {
+    const LinePair axes{{{-5, 0}, {5, 0}}, {{0, -5}, {0, 5}}};
+    const TangentCircle dot{{0, 0}, {0, 0}, {0, 0}};
+    EXPECT_TRUE(TouchesLines(dot, axes, 0, 1e-10));
+    EXPECT_TRUE(PointsTouch(dot, axes, 0, 1e-10));
+    EXPECT_FALSE(PointsTouch({{0, 0}, {0, 0}, {0, 1}}, axes, 0, 1e-10));
+}
+
+TEST(GeometryTipsEdges, AnglesOfShortAndLongLines) {
+    // From the start to the end, counted from the right to the left.
+    const struct {
+        Position end;
+        double degrees;
+    } cases[] = {{{.5, 0}, 0},    {{-.5, 0}, 180},  {{0, .5}, 90},     {{0, -.5}, 270},  {{2, 2}, 45},
+                 {{.5, .5}, 45},  {{-.5, .5}, 135}, {{-.5, -.5}, 225}, {{.5, -.5}, 315}, {{-2, 2}, 135},
+                 {{-2, -2}, 225}, {{2, -2}, 315},   {{0, 0}, 0}};
+    for (const auto& c : cases) {
+        EXPECT_NEAR(AngleOf({{0, 0}, c.end}), c.degrees, 1e-12) << c.end.X << ' ' << c.end.Y;
+    }
 }
 
 TEST(GeometryTangentMendEdges, PointsThatMissBecomeFeet) {

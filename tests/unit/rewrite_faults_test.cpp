@@ -228,6 +228,23 @@ TEST(RewriteFaults, AFileWithoutAFolderBeforeItsName) {
     EXPECT_EQ(counting.Calls(), 2);
 }
 
+TEST(RewriteFaults, TheFirstDescriptorIsAsGoodAsAnother) {
+    const TestFolder folder;
+    folder.Put("f.txt", "old");
+    const int kept = ::dup(0);
+    ::close(0);
+    const Failing counting("fsync", 0, Always);
+    const Outcome outcome = Rewritten(folder);
+    const int again = ::open("/dev/null", O_RDONLY | O_CLOEXEC);
+    if (kept >= 0) {
+        ::dup2(kept, 0);
+        ::close(kept);
+    }
+    EXPECT_EQ(outcome, (Outcome{"", "new"}));
+    EXPECT_EQ(counting.Calls(), 2);
+    EXPECT_EQ(again, 0);  // it was closed
+}
+
 TEST(RewriteFaults, ASocketIsNoFile) {
     const TestFolder folder;
     ASSERT_EQ(::mknod((folder.Path() / "socket").c_str(), S_IFSOCK | 0600, 0), 0);

@@ -48,6 +48,13 @@ TEST(FontWidths, CodesAroundTheTable) {
     }
 }
 
+TEST(Mid, FromTheFirstCharacterOn) {
+    EXPECT_EQ(Mid("abc", 1, 2), "ab");
+    EXPECT_EQ(Mid("abc", 1, 0), "");
+    EXPECT_EQ(Mid("abc", 1), "abc");
+    EXPECT_EQ(Mid("", 1, 1), "");
+}
+
 TEST(Str, ExponentsAroundTen) {
     EXPECT_EQ(Str(1e-8), " 1E-08");
     EXPECT_EQ(Str(1e-9), " 1E-09");
