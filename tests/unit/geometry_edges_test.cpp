@@ -134,6 +134,14 @@ TEST(GeometryReportEdges, ACommaAmongTheFirstColumns) {
               LevelBlock("\r\n" + In + "Intersects Line  1 at: X  0,  Y  0"));
 }
 
+TEST(GeometryReportEdges, ACommaInTheFirstColumns) {
+    const std::string report = ReportText({LevelLine("12,", "")}, Unit::Inch, {});
+    EXPECT_NE(report.find("Intersects Line  12 at:"), std::string::npos) << report;
+    const Partners partners = PartnersOf(At({{1, ",5"}, {99, "Circle Tangent"}}));
+    EXPECT_EQ(partners.First, 0);
+    EXPECT_EQ(partners.Second, 5);
+}
+
 TEST(GeometryReportEdges, FourColumnsBeforeTheCommaAreALinesPartner) {
     EXPECT_EQ(ReportText({LevelLine(" 1", "91234, 5")}, Unit::Inch, {}),
               LevelBlock("\r\n" + In + "  1234 at: X  0,  Y  0\r\n" + In + "  5 at: X  3,  Y  0"));

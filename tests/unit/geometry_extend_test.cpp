@@ -35,6 +35,13 @@ TEST(GeometryExtend, FiveColumnsAreTheNumber) {
     EXPECT_EQ(Extend(wide, PairText(" 12345", " 2 ", " 3", " 0")), std::nullopt);
 }
 
+TEST(GeometryExtend, ALineThatIsMetInAnEndStays) {
+    const Lines expected{LineLine(1, " 0", " 0", " 4", " 0"), LineLine(2, " 3", " 5", " 3", " 0")};
+    const std::string across = LineLine(1, "0", "0", "4", "0");
+    EXPECT_EQ(Extend({across, LineLine(2, "3", "0", "3", "5")}, PairText(" 1 ", " 2 ", " 3", " 0")), expected);
+    EXPECT_EQ(Extend({across, LineLine(2, "3", "5", "3", "0")}, PairText(" 1 ", " 2 ", " 3", " 0")), expected);
+}
+
 TEST(GeometryExtend, EveryRow) {
     const ExtendCase cases[] = {
         {"far end of A, near end of B",

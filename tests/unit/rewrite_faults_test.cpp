@@ -245,6 +245,21 @@ TEST(RewriteFaults, TheFirstDescriptorIsAsGoodAsAnother) {
     EXPECT_EQ(again, 0);  // it was closed
 }
 
+TEST(RewriteFaults, FortyLinksAreFollowed) {
+    const TestFolder folder;
+    folder.Put("f.txt", "old");
+    std::string target = "f.txt";
+    for (int i = 1; i <= 41; ++i) {
+        const std::string link = "link" + std::to_string(i);
+        std::filesystem::create_symlink(target, folder.Path() / link);
+        target = link;
+    }
+    folder.Files().Rewrite("link40", "new");
+    EXPECT_EQ(folder.Get("f.txt"), "new");
+    EXPECT_EQ(FaultOf([&] { folder.Files().Rewrite("link41", "more"); }), FaultNumber::FileIo);
+    EXPECT_EQ(folder.Get("f.txt"), "new");
+}
+
 TEST(RewriteFaults, ASocketIsNoFile) {
     const TestFolder folder;
     ASSERT_EQ(::mknod((folder.Path() / "socket").c_str(), S_IFSOCK | 0600, 0), 0);
