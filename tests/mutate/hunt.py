@@ -18,6 +18,7 @@ import run_scripts  # pylint: disable=wrong-import-position
 
 FAILED = re.compile(rb"\[  FAILED  \] ([\w/]+\.[\w/]+)")
 MEGABYTE = 1 << 20
+NOBODY = 65534        # who runs them where the tool itself is run by root
 SECONDS_MORE = 2      # of a processor, beyond three times what the tests take with all mutants asleep
 WALL_SECONDS = 300
 FIRST = 25            # unit tests in the first run for a mutant
@@ -25,8 +26,12 @@ CHUNK = 100           # and in each one after it
 
 
 def limits(seconds):
-    """A mutant may turn in circles, fill the memory or fill the disk."""
+    """A mutant may turn in circles, fill the memory or fill the disk; and what writes files may write any file."""
     def apply():
+        if os.geteuid() == 0:
+            os.setgroups([])
+            os.setgid(NOBODY)
+            os.setuid(NOBODY)
         resource.setrlimit(resource.RLIMIT_CPU, (seconds, seconds + 1))
         resource.setrlimit(resource.RLIMIT_AS, (2048 * MEGABYTE, 2048 * MEGABYTE))
         resource.setrlimit(resource.RLIMIT_FSIZE, (64 * MEGABYTE, 64 * MEGABYTE))
@@ -53,6 +58,9 @@ class Pack:
             home, working = pathlib.Path(folder, "home"), pathlib.Path(folder, "work")
             home.mkdir(mode=0o700)
             working.mkdir()
+            if os.geteuid() == 0:
+                for path in (folder, home, working):
+                    os.chown(path, NOBODY, NOBODY)
             environment = run_scripts.environment_of(home, "headless")
             environment.update(variables, TMPDIR=str(home))
             command = [part.replace("WORKING", str(working)) for part in command]
@@ -86,6 +94,7 @@ class Pack:
     def noted(self, command, cpu_seconds=60):
         """(ended well, the numbers it came by, seconds)"""
         with tempfile.NamedTemporaryFile(dir="/dev/shm") as file:
+            os.chmod(file.name, 0o666)
             good, _, took = self.run(command, {"BRINDLEX_REACH": file.name}, cpu_seconds)
             numbers = {i for i, byte in enumerate(pathlib.Path(file.name).read_bytes()) if byte}
         return good, numbers, took
