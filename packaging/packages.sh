@@ -43,6 +43,7 @@ screen_packages=(xvfb xauth)
 # What the tests need besides.
 test_packages=(poppler-utils python3 libgtest-dev libbenchmark-dev clang clang-format clang-tidy libclang-rt-14-dev
     python3-ezdxf librsvg2-bin at-spi2-core dbus-daemon gir1.2-atspi-2.0 python3-gi
-    python3-clang-14 llvm-14)
+    python3-clang-14 llvm-14
+    xdotool x11-utils desktop-file-utils appstream shared-mime-info mandoc lintian)
 # Runs the drilling programs of the tests. Large, so that the tests do without where it can't be installed.
 interpreter_packages=(linuxcnc-uspace)

@@ -1,7 +1,9 @@
 """What the test runners share: jobs in parallel, a counted end, one way to tell of a failure."""
 
 import concurrent.futures
+import contextlib
 import os
+import subprocess
 import sys
 
 
@@ -13,6 +15,26 @@ def in_parallel(work, items, jobs=None):
     """The results of work(item), in the order of the items, with a processor for each, or so many at a time."""
     with concurrent.futures.ThreadPoolExecutor(jobs or processors()) as pool:
         return list(pool.map(work, items))
+
+
+@contextlib.contextmanager
+def screen(size="1280x1024"):
+    """A screen of its own, that no other run can take away, named by DISPLAY."""
+    before = os.environ.get("DISPLAY")
+    name, other = os.pipe()
+    with subprocess.Popen(["Xvfb", "-displayfd", str(other), "-screen", "0", f"{size}x24", "-nolisten", "tcp"],
+                          pass_fds=[other], stderr=subprocess.DEVNULL) as server:
+        os.close(other)
+        try:
+            with os.fdopen(name) as told:
+                os.environ["DISPLAY"] = ":" + told.readline().strip()
+            yield
+        finally:
+            server.terminate()
+            if before is None:
+                del os.environ["DISPLAY"]
+            else:
+                os.environ["DISPLAY"] = before
 
 
 def tell_failure(title, *texts):

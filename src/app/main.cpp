@@ -10,6 +10,7 @@
 #include "frame/program.h"
 
 #include <QApplication>
+#include <QIcon>
 
 namespace brindlex {
 
@@ -25,6 +26,15 @@ void EndInOrder(Program& program) {
     });
 }
 
+// The icon of all windows: that of the theme, or the one that the program carries.
+QIcon OwnIcon() {
+    QIcon carried;
+    for (const int size : {16, 32, 48, 128}) {
+        carried.addFile(QStringLiteral(":/icon/%1x%1/apps/brindlex.png").arg(size), QSize(size, size));
+    }
+    return QIcon::fromTheme(QStringLiteral("brindlex"), carried);
+}
+
 int RunProgram(int argc, char** argv) {
     QApplication::setApplicationName(QStringLiteral("brindlex"));
     QApplication::setDesktopFileName(QStringLiteral("brindlex"));
@@ -36,6 +46,7 @@ int RunProgram(int argc, char** argv) {
     EndSignals endSignals;
     const QApplication application(argc, argv);
     DressApplication();
+    QApplication::setWindowIcon(OwnIcon());
     QApplication::setQuitOnLastWindowClosed(false);
 
     DesktopRuntime runtime;
