@@ -15,6 +15,7 @@ namespace {
 
 using boltcircle::Pattern;
 
+constexpr double FullTurn = 360;
 constexpr const char* NotCompleted = "the center, the diameter and the number of holes are needed";
 constexpr const char* ZeroDiameter = "the diameter must be above 0";
 constexpr const char* ZeroHoles = "the number of holes must be above 0";
@@ -70,13 +71,17 @@ Answer AnswerBolt(boltcircle::Entries entries, const Display& display) {
     boltcircle::Normalize(entries);
     const Pattern pattern = boltcircle::SolveBoltCircle(entries, mask, shared.Rad);
     const auto rounded = [&](double value) { return pattern.AnglesOnly ? Val(Format(value, mask)) : value; };
+    const auto angle = [&](std::string_view name, double decimal, double exact, bool given) {
+        return Angle(name, display.Minutes ? DegreesShown(boltcircle::ToDegrees(exact, mask)) : Trimmed(Str(decimal)),
+                     display.Minutes, given);
+    };
     Answer answer{"bolt", WordOf(display.Measure), {}, {}, "hole_positions", {}};
     answer.Items = {{"holes", Trimmed(Str(pattern.Holes)), "", true, true},
                     Length("diameter", pattern.Diameter, display.Measure, true),
                     Length("center_x", pattern.CenterX, display.Measure, true),
                     Length("center_y", pattern.CenterY, display.Measure, true),
-                    Angle("start_angle", Trimmed(Str(pattern.StartAngle)), false, true),
-                    Angle("angle_spacing", Trimmed(Str(rounded(pattern.AngleSpacing))), false),
+                    angle("start_angle", pattern.StartAngle, pattern.StartAngle, true),
+                    angle("angle_spacing", rounded(pattern.AngleSpacing), FullTurn / pattern.Holes, false),
                     Length("chord", rounded(pattern.ChordDist), display.Measure)};
     answer.Lines.push_back(HoleLine(1, boltcircle::FirstHole(pattern), pattern, display, mask));
     for (const boltcircle::Hole& hole : pattern.Further) {

@@ -13,8 +13,9 @@ namespace {
     throw Failure(code, "line " + std::to_string(line) + ": " + std::string(why));
 }
 
-/// The option that a column names: "side-a", "side_a" or "--side-a".
-std::string_view OptionOf(const Command& command, std::string column) {
+/// The option that a column names: "side-a", "side_a" or "--side-a"; blanks around it do not count.
+std::string_view OptionOf(const Command& command, std::string_view head) {
+    std::string column = Trimmed(head);
     std::replace(column.begin(), column.end(), '_', '-');
     const std::string option = column.rfind("--", 0) == 0 ? column : "--" + column;
     const auto row = std::find_if(command.Options.begin(), command.Options.end(), [&](const OptionRow& candidate) {
@@ -57,7 +58,7 @@ std::string AnswersTo(const Command& command, Solve solve, const Arguments& give
         }
         Arguments row = given;
         for (std::size_t i = 0; i < fields.size(); ++i) {
-            if (!fields[i].empty()) {
+            if (!Trimmed(fields[i]).empty()) {
                 row.Set(options[i], fields[i]);
             }
         }

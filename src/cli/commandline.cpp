@@ -19,6 +19,14 @@ constexpr std::size_t HelpColumn = 28;
 
 constexpr std::string_view OptionsOfAll = "  --help                    tells this";
 
+/// Behind it all words are operands, whatever they begin with.
+constexpr std::string_view OptionsEnd = "--";
+
+/// A message may quote what a file holds: of a longer one the head and the tail are told.
+constexpr std::size_t LongestMessage = 1000;
+constexpr std::size_t MessageTail = 200;
+constexpr std::string_view LeftOut = " ... ";
+
 std::string HelpLine(std::string_view name, std::string_view meta, std::string_view help) {
     std::string line = "  ";
     line.append(name);
@@ -63,6 +71,40 @@ Arguments TakeOptions(const Command& command, const std::vector<CLI::Option*>& o
     return given;
 }
 
+/// Refuses what the parser would take in its own way: an option with nothing behind its "=" would take the next word,
+/// and a flag would take a text.
+void CheckEquals(const Command& command, const std::vector<std::string>& words) {
+    const auto end = std::find(words.begin(), words.end(), OptionsEnd);
+    for (auto word = words.begin(); word != end; ++word) {
+        const std::size_t equals = word->find('=');
+        const auto row = std::find_if(command.Options.begin(), command.Options.end(),
+                                      [&](const OptionRow& option) { return word->substr(0, equals) == option.Name; });
+        if (equals == std::string::npos || row == command.Options.end()) {
+            continue;
+        }
+        if (row->Meta.empty()) {
+            throw Failure(Exit::Usage, Joined({row->Name, " takes nothing behind it"}));
+        }
+        if (equals + 1 == word->size()) {
+            throw Failure(Exit::Usage, Joined({row->Name, " has nothing behind it"}));
+        }
+    }
+}
+
+/// The operands among the words that are no options of the command.
+std::vector<std::string> OperandsAmong(std::vector<std::string> words) {
+    const auto end = std::find(words.begin(), words.end(), OptionsEnd);
+    const auto option =
+        std::find_if(words.begin(), end, [](const std::string& word) { return word.size() > 1 && word[0] == '-'; });
+    if (option != end) {
+        throw Failure(Exit::Usage, *option + " is no option here; --help lists them");
+    }
+    if (end != words.end()) {
+        words.erase(end);
+    }
+    return words;
+}
+
 void CheckOperands(const Operands& rest, const std::vector<std::string>& words) {
     if (words.size() > rest.Most) {
         throw Failure(Exit::Usage, words[rest.Most] + " is one word too many");
@@ -72,9 +114,29 @@ void CheckOperands(const Operands& rest, const std::vector<std::string>& words) 
     }
 }
 
+/// Whether a character of UTF-8 begins there, or the text ends.
+bool BeginsAt(std::string_view text, std::size_t at) {
+    return at >= text.size() || (static_cast<unsigned char>(text[at]) & 0xC0U) != 0x80U;
+}
+
+std::string Shortened(std::string_view text) {
+    if (text.size() <= LongestMessage) {
+        return std::string(text);
+    }
+    std::size_t head = LongestMessage - MessageTail - LeftOut.size();
+    std::size_t tail = text.size() - MessageTail;
+    while (head > 0 && !BeginsAt(text, head)) {
+        --head;
+    }
+    while (!BeginsAt(text, tail)) {
+        ++tail;
+    }
+    return Joined({text.substr(0, head), LeftOut, text.substr(tail)});
+}
+
 /// A message as one line: what a file name or a text may hold of line ends and other controls becomes '?'.
 std::string OneLine(std::string_view command, std::string_view what) {
-    std::string line = Joined({Program, command.empty() ? "" : " ", command, ": ", what});
+    std::string line = Shortened(Joined({Program, command.empty() ? "" : " ", command, ": ", what}));
     std::replace_if(
         line.begin(), line.end(), [](unsigned char c) { return c < ' ' || c == 0x7F; }, '?');
     return line + '\n';
@@ -132,19 +194,22 @@ std::optional<Arguments> ParseArguments(const Command& command, const std::vecto
     CLI::App app(std::string(command.Summary), std::string(command.Name));
     app.set_help_flag("--help,-h");
     app.allow_windows_style_options(false);
+    // Operands are not given to the parser as such: it would take "[a,b]" for two of them.
+    app.allow_extras();
     const std::vector<CLI::Option*> options = AddOptions(app, command);
-    std::vector<std::string> operands;
-    if (command.Rest.Most > 0) {
-        app.add_option("operands", operands)->expected(0, CLI::detail::expected_max_vector_size);
-    }
+    CheckEquals(command, words);
     try {
         // The parser takes them from the end.
         app.parse(std::vector<std::string>(words.rbegin(), words.rend()));
     } catch (const CLI::CallForHelp&) {
         return std::nullopt;
+    } catch (const CLI::ArgumentMismatch&) {
+        throw Failure(Exit::Usage,
+                      words.back() + " has nothing behind it");  // it is the last word, or it had taken one
     } catch (const CLI::ParseError& error) {
         throw Failure(Exit::Usage, error.what());
     }
+    std::vector<std::string> operands = OperandsAmong(app.remaining());
     Arguments given = TakeOptions(command, options);
     CheckOperands(command.Rest, operands);
     given.Words = std::move(operands);

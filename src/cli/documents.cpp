@@ -32,10 +32,16 @@ constexpr KindRow Kinds[] = {{".rgt", righttri::DocumentLines, RightFromDocument
                              {".sin", sineplate::DocumentLines, SinePlateFromDocument},
                              {".pgf", polygon::DocumentLines, PolygonFromDocument}};
 
-const KindRow& KindOf(const std::string& file) {
+/// In small letters, with its point.
+std::string EndingOf(const std::string& file) {
     std::string ending = std::filesystem::path(file).extension().string();
     std::transform(ending.begin(), ending.end(), ending.begin(),
                    [](unsigned char c) { return static_cast<char>(std::tolower(c)); });
+    return ending;
+}
+
+const KindRow& KindOf(const std::string& file) {
+    const std::string ending = EndingOf(file);
     for (const KindRow& row : Kinds) {
         if (row.Ending == ending) {
             return row;
@@ -57,6 +63,15 @@ Answer AnswerOf(const std::string& file, const Display& display) {
     }
 }
 
+/// Throws Failure that names the file unless it has a result; a drawing's is its report.
+void CheckOne(const std::string& file, const Display& display) {
+    if (EndingOf(file) == ".geo") {
+        static_cast<void>(ReadDrawing(file));
+    } else {
+        static_cast<void>(AnswerOf(file, display));
+    }
+}
+
 /// A line for each file. Where one fails the first failure's code ends it, with all lines as findings.
 std::string Checked(const std::vector<std::string>& files, const Display& display) {
     std::string lines;
@@ -64,7 +79,8 @@ std::string Checked(const std::vector<std::string>& files, const Display& displa
     Exit code = Exit::Done;
     for (const std::string& file : files) {
         try {
-            lines += AnswerOf(file, display).File + ": ok\n";
+            CheckOne(file, display);
+            lines.append(file).append(": ok\n");
         } catch (const Failure& failure) {
             lines.append(failure.what()).append("\n");
             code = ++bad == 1 ? failure.Code() : code;
@@ -83,6 +99,9 @@ std::string RunSolve(const Arguments& given, const StandardInput&) {
     const Display display = DisplayFrom(given);
     const Style style = StyleFrom(given);
     if (given.Has("--check")) {
+        if (style != Style::Table) {
+            throw Failure(Exit::Usage, "--json and --csv do not go with --check");
+        }
         return Checked(given.Words, display);
     }
     std::vector<Answer> answers;

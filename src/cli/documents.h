@@ -8,9 +8,9 @@ namespace brindlex::cli {
 
 [[nodiscard]] std::string RunSolve(const Arguments& given, const StandardInput& input);
 
-inline constexpr OptionRow SolveOptions[] = {UnitOption, PlacesOption,
-                                             DmsOption,  JsonOption,
-                                             CsvOption,  {"--check", "", "tells of each file whether it solves"}};
+inline constexpr OptionRow SolveOptions[] = {
+    UnitOption, PlacesOption, DmsOption,
+    JsonOption, CsvOption,    {"--check", "", "tells of each file whether it solves; drawings may be among them"}};
 
 inline constexpr Command SolveCommand{
     "solve",

@@ -1,6 +1,7 @@
 // export FILE OUT: by the ending of OUT, or by --as.
 #include "cli/exportcommand.h"
 
+#include "cli/drawing.h"
 #include "cli/exportdxf.h"
 #include "cli/exportnc.h"
 #include "cli/exportsheet.h"
@@ -226,6 +227,14 @@ void RefuseStrayOptions(const FormatRow& format, const Arguments& given) {
     }
 }
 
+/// The document itself is never replaced, not even by another name of it.
+void RefuseTheDocument(const std::string& file, const std::string& out) {
+    std::error_code error;
+    if (fs::equivalent(file, out, error)) {
+        RefuseUsage(out + " is the document itself");
+    }
+}
+
 void RefuseOverwriting(const std::string& out) {
     std::error_code error;
     if (fs::exists(fs::symlink_status(out, error))) {
@@ -250,13 +259,19 @@ std::string RunExport(const Arguments& given, const StandardInput&) {
     const std::string& file = given.Words.front();
     const std::string& out = given.Words.back();
     const auto as = given.Text("--as");
-    const FormatRow& format = FormatOf(DocumentOf(file), as ? Lower(std::string(*as)) : EndingOf(out));
+    const Document document = DocumentOf(file);
+    const FormatRow& format = FormatOf(document, as ? Lower(std::string(*as)) : EndingOf(out));
     RefuseStrayOptions(format, given);
     const auto unit = UnitOption(given);
-    std::string content = Content(format, {file, LinesOf(file), unit}, given);
+    const Source source{file, LinesOf(file), unit};
+    if (document == Document::Drawing) {
+        RefuseUnlessDrawing(file, source.Lines);
+    }
+    std::string content = Content(format, source, given);
     if (out == Unprinted) {
         return content;
     }
+    RefuseTheDocument(file, out);
     if (!given.Has("--force")) {
         RefuseOverwriting(out);
     }

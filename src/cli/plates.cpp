@@ -45,6 +45,12 @@ void RefuseOrPass(const sineplate::PlateEntries& entries) {
     }
 }
 
+/// An angle in degrees, minutes and seconds, these rounded.
+std::string MinutesOf(double angle, SharedState& shared) {
+    const auto round = [&](double seconds) { return RoundedForDisplay(seconds, shared, shared.DigitsR); };
+    return DegreesShown(DegreeText(SplitDegrees(angle, round)));
+}
+
 /// Where both types stand in one table, the names of the other one are there too, without values.
 Answer AnswerSine(sineplate::PlateEntries entries, const Display& display) {
     RefuseOrPass(entries);
@@ -61,13 +67,16 @@ Answer AnswerSine(sineplate::PlateEntries entries, const Display& display) {
                                               : sineplate::SolveRegular(first, spacing, unit, shared.Rad);
     const std::string mask = MaskFor(display, shared);
     const std::string bottom = Format(stack.Bottom, mask);
-    const auto angle = [](double value) { return Trimmed(Str(value)); };
+    const auto angle = [&](std::string_view name, bool shown, double value) -> Item {
+        const std::string text = display.Minutes ? MinutesOf(value, shared) : Trimmed(Str(value));
+        return {name, shown ? text : "", display.Minutes ? "" : "deg", !display.Minutes, true};
+    };
     const std::string_view word = WordOf(display.Measure);
     return {"sine",
             word,
-            {{RegularNames.First, compound ? "" : angle(first), "deg", true, true},
-             {CompoundNames.First, compound ? angle(first) : "", "deg", true, true},
-             {CompoundNames.Second, compound ? angle(second) : "", "deg", true, true},
+            {angle(RegularNames.First, !compound, first),
+             angle(CompoundNames.First, compound, first),
+             angle(CompoundNames.Second, compound, second),
              {"spacing", Trimmed(Str(spacing)), "in", true, true},
              {"buildup", compound ? "" : bottom, word, true, false},
              {"bottom_buildup", compound ? bottom : "", word, true, false},

@@ -19,6 +19,7 @@ inline constexpr OptionRow SineOptions[] = {
     {"--spacing", "INCHES", "the distance of the rolls, in inches always; 5 without it"},
     {"--unit", "in|mm", "the unit of the buildup; in without it"},
     PlacesOption,
+    DmsOption,
     JsonOption,
     CsvOption,
     BatchOption};

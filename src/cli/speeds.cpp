@@ -3,6 +3,7 @@
 
 #include "cli/files.h"
 #include "frame/textfile.h"
+#include "services/rounding.h"
 #include "speedsfeeds/calculation.h"
 #include "speedsfeeds/ranges.h"
 #include "speedsfeeds/store.h"
@@ -180,14 +181,22 @@ std::string_view FeedRateUnit(const Setup& setup) {
     return setup.On == Machine::Mill ? "in/min" : "ft/min";
 }
 
-Answer AnswerSpeeds(const Entries& entries, const Setup& setup) {
+/// One decimal as on the form, or as many as are wanted.
+std::string MaskFrom(const Arguments& given, SharedState& shared) {
+    return given.Has("--places") ? RoundingMask(std::to_string(DisplayFrom(given).Places), shared)
+                                 : std::string(speedsfeeds::ResultMask);
+}
+
+Answer AnswerSpeeds(Entries entries, const Setup& setup, const Arguments& given) {
     if (const auto refusal = speedsfeeds::OutOfRange(entries, setup.On)) {
         throw Failure(Exit::NoSolution, OnOneLine(refusal->Message));
     }
     SharedState shared;
     WorkOutPi(shared);
     const speedsfeeds::Results results =
-        speedsfeeds::Calculate(entries, setup.Data, setup.On, shared.Pi, /*rateOnShow=*/false);
+        speedsfeeds::Calculate(entries, setup.Data, setup.On, shared.Pi, /*rateOnShow=*/false, MaskFrom(given, shared));
+    // The power is worked out with the factor in four decimals: that one is told.
+    entries.PowerFactor = results.PowerFactor.value_or(entries.PowerFactor);
     Answer answer{"speeds", WordOf(setup.Lengths), {}, {}, {}, {}};
     answer.Items.push_back({"machine", setup.On == Machine::Mill ? "mill" : "lathe", "", false, true});
     for (const EntryRow& row : Rows) {
@@ -209,7 +218,7 @@ Answer SolveSpeeds(const Arguments& given) {
     const Setup setup = SetupFrom(given);
     CheckSections(given, setup);
     const Entries entries = EntriesFrom(given, setup);
-    return Solved([&] { return AnswerSpeeds(entries, setup); });
+    return Solved([&] { return AnswerSpeeds(entries, setup, given); });
 }
 
 std::string RunSpeeds(const Arguments& given, const StandardInput& input) {

@@ -29,6 +29,7 @@ inline constexpr OptionRow SpeedsOptions[] = {
     {"--tool", "NAME", "the tool there"},
     {"--tool-material", "NAME", "its material"},
     {"--work-material", "NAME", "the material that is cut"},
+    {"--places", "N", "decimal places of the results, 1 to 15; 1 without it"},
     JsonOption,
     CsvOption,
     BatchOption};

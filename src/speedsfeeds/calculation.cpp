@@ -15,7 +15,6 @@ constexpr double MillimetersPerMeter = 1000;
 constexpr double RemovalDivisor = 60000;
 constexpr double MinutesPerHour = 60;
 constexpr double SecondsPerMinute = 60;
-constexpr const char* ResultMask = ".0";
 constexpr const char* FactorMask = ".0000";
 constexpr const char* MinuteMask = ".000";
 constexpr const char* HourMask = ".0000";
@@ -139,21 +138,21 @@ std::string TimeText(double minutes) {
     return minutes < MinutesPerHour ? MinutesText(minutes) : HoursText(minutes);
 }
 
-Results Calculate(const Entries& entries, Unit unit, Machine machine, double pi, bool rateOnShow) {
+Results Calculate(const Entries& entries, Unit unit, Machine machine, double pi, bool rateOnShow,
+                  std::string_view mask) {
     const Numbers n(entries);
     Results results;
 
     const Checked rpm = OrZero([&] { return (UnitsPerLength(unit) * n.SurfSpeed) / (Checked(pi) * n.Diameter); });
-    results.SpindleSpeed = Format(rpm.Value(), ResultMask);
+    results.SpindleSpeed = Format(rpm.Value(), mask);
 
     const Checked feedRate = OrZero([&] { return RatePerMinute(n, rpm, machine); });
-    results.FeedRate =
-        Format(unit == Unit::Inch ? feedRate.Value() : (feedRate / MillimetersPerMeter).Value(), ResultMask);
+    results.FeedRate = Format(unit == Unit::Inch ? feedRate.Value() : (feedRate / MillimetersPerMeter).Value(), mask);
 
     Checked removalRate;
     if (!entries.CutDepth.empty() && !entries.CutWidth.empty()) {
         removalRate = OrZero([&] { return RemovalRate(n, feedRate, unit, machine); });
-        results.RemovalRate = Format(removalRate.Value(), ResultMask);
+        results.RemovalRate = Format(removalRate.Value(), mask);
     }
     if (!entries.CutLength.empty() && !entries.CutCount.empty()) {
         const Checked minutes = OrZero([&] { return MinutesInCut(n, unit, pi); });
@@ -165,7 +164,7 @@ Results Calculate(const Entries& entries, Unit unit, Machine machine, double pi,
         Guarded([&] { factor = Str(Val(Format(Val(factor), FactorMask))); });
         const Checked power = OrZero([&] { return removalRate * Val(factor); });
         results.PowerFactor = factor;
-        results.Power = Format(power.Value(), ResultMask);
+        results.Power = Format(power.Value(), mask);
     }
     return results;
 }

@@ -9,6 +9,7 @@
 
 #include <optional>
 #include <string>
+#include <string_view>
 
 namespace brindlex::speedsfeeds {
 
@@ -52,10 +53,14 @@ struct Results {
     std::optional<std::string> Power;
 };
 
+/// One decimal, without a digit before the point for values below 1.
+inline constexpr std::string_view ResultMask = ".0";
+
 /// Works through all sections whose entries hold text. A step that faults is skipped: its result stays 0 and the next
 /// one runs, so no fault comes out. The power needs a removal rate on show: one that is left from an earlier
-/// calculation will do, but then the power is 0: intended.
-[[nodiscard]] Results Calculate(const Entries& entries, Unit unit, Machine machine, double pi, bool rateOnShow);
+/// calculation will do, but then the power is 0: intended. All results but the time are written by `mask`.
+[[nodiscard]] Results Calculate(const Entries& entries, Unit unit, Machine machine, double pi, bool rateOnShow,
+                                std::string_view mask = ResultMask);
 
 /// Minutes as text: "30 Sec." below 1, else hours, minutes and seconds with ":" between. Seconds that round up to 60
 /// are carried and yet shown as 60, with the blank of the number in front of the carried minutes: intended. Throws

@@ -145,6 +145,18 @@ def test_one_bad_document_prints_nothing(bench):
           "gone.rgt can't be read: File not found"], "check")
     same(done.stderr, b"brindlex-cli solve: 3 of 4 files have no result\n", "check")
     same(bench.ok("solve", "--check", "good.rgt"), "good.rgt: ok\n", "check")
+    bench.refuses(2, "do not go with --check", "solve", "--check", "good.rgt", "--json")
+    bench.refuses(2, "do not go with --check", "solve", "--check", "good.rgt", "--csv")
+
+
+def test_drawings_are_checked_too(bench):
+    (bench.folder / "board.GEO").write_bytes(b"M\r\n")
+    (bench.folder / "text.geo").write_bytes(b"notes\r\n")
+    (bench.folder / "good.rgt").write_bytes(b"Side b and side c\r\n40\r\n30\r\n")
+    same(bench.ok("solve", "--check", "board.GEO", "good.rgt"), "board.GEO: ok\ngood.rgt: ok\n", "check")
+    done = bench.run("solve", "--check", "board.GEO", "text.geo")
+    same((done.returncode, done.stdout), (3, b"board.GEO: ok\ntext.geo: this is no drawing\n"), "check")
+    bench.refuses(2, "board.GEO: the ending is none of", "solve", "board.GEO")
 
 
 def test_names_of_any_bytes(bench):

@@ -56,6 +56,22 @@ def test_bolt_12_places(bench):
     check_bolt(bench, 12)
 
 
+def test_all_angles_of_a_bolt_circle_in_minutes(bench):
+    # 360 / 7 = 51.428571...: 51 degrees, 25.714285... minutes, 42.857142... seconds.
+    for more in ([], ["--angles-only"]):
+        answer = bench.json("bolt", "--diameter", "5", "--holes", "7", "--start-angle", "30:15", "--dms", *more)
+        same([answer["start_angle"], answer["angle_spacing"], answer["hole_positions"][0]["angle"]],
+             ["30\u00b0  15'", "51\u00b0  25'  42.8571\"", "30\u00b0  15'"], more)
+
+
+def test_angles_of_a_sine_plate_in_minutes(bench):
+    # .345678 x 60 = 20.74068; .74068 x 60 = 44.4408.
+    same(bench.ok("sine", "--angle", "12.345678", "--dms").splitlines()[0], "angle    12\u00b0  20'  44.4408\"      given",
+         "regular")
+    row = bench.rows("sine", "--bottom-angle", "12.345678", "--top-angle", "30:15:30", "--dms", "--places", "1")[0]
+    same([row["bottom_angle"], row["top_angle"]], ["12\u00b0  20'  44.4\"", "30\u00b0  15'  30\""], "compound")
+
+
 def test_sine_plates(bench):
     with bench.desktop() as desktop:
         desktop.do("start")
@@ -109,7 +125,7 @@ def test_polygons(bench):
 
 # Surface speed, feed, diameter, teeth, depth, width, power factor, length, cuts.
 CUTS = [("100", ".002", ".5", "4", ".1", ".5", ".6", "10", "2"), ("350", ".15", "12", "2", "3", "8", "1.2", "1000", "40"),
-        ("25", ".0005", "3", "1", ".01", ".02", "3", ".5", "1")]
+        ("25", ".0005", "3", "1", ".01", ".02", ".123456", ".5", "1")]
 SPEED_OPTIONS = ["--surface-speed", "--feed", "--diameter", "--teeth", "--depth", "--width", "--power-factor", "--length",
                  "--cuts"]
 SPEED_BOXES = ["Text3", "Text4", "Text5", "Text6", "Text7", "Text8", "Text9", "Text14", "Text15"]
@@ -138,8 +154,20 @@ def compare_speeds(bench, desktop, machine, unit, cut):
     desktop.do("press Form19.Command1")
     same(desktop.show("boxes"), [], words)
     row = bench.rows(*words)[0]
-    names = ["spindle_speed", "feed_rate", "removal_rate", "time_in_cut", "power"]
-    same([row[name] for name in names], desktop.texts("Form19", ["Text10", "Text11", "Text12", "Text13", "Text16"]), words)
+    names = ["spindle_speed", "feed_rate", "removal_rate", "time_in_cut", "power", "power_factor"]
+    boxes = ["Text10", "Text11", "Text12", "Text13", "Text16", "Text9"]
+    same([row[name] for name in names], desktop.texts("Form19", boxes), words)
+
+
+def test_speeds_with_more_decimals(bench):
+    # 1000 x 120 / (10 pi) = 3819.71863; x .05 x 4 / 1000 = .763943; 2 x 3 x 763.943 / 60000 = .076394; x .5 = .038197.
+    words = ["speeds", "--unit", "mm", "--surface-speed", "120", "--feed", ".05", "--diameter", "10", "--teeth", "4",
+             "--depth", "2", "--width", "3", "--power-factor", ".5"]
+    names = ["spindle_speed", "feed_rate", "removal_rate", "power"]
+    for places, texts in (("4", ["3819.7186", ".7639", ".0764", ".0382"]), ("1", ["3819.7", ".8", ".1", ".0"])):
+        row = bench.rows(*words, "--places", places)[0]
+        same([row[name] for name in names], texts, places)
+    same(bench.rows(*words), bench.rows(*words, "--places", "1"), "without it there is one")
 
 
 DATA = ("I_End mill!Carbide@Aluminum#500-1000$.002-.006%.33^\r\nM_End mill!Carbide@Aluminum#150-300$.05-.15%.9^\r\n"

@@ -112,13 +112,32 @@ def test_what_does_not_go_together(bench):
 
 
 def test_words_that_are_no_options(bench):
+    bench.refuses(2, "--side-d is no option here; --help lists them", "right", "--side-d", "3")
+    bench.refuses(2, "--side-a has nothing behind it", "right", "--angle-b", "30", "--side-a")
+    bench.refuses(2, "--side-a has nothing behind it", "right", "--side-a=", "--angle-b=30")
+    bench.refuses(2, "--json takes nothing behind it", "right", "--side-a", "5", "--angle-b", "30", "--json=false")
     for words in (["right", "5"], ["right", "--side-d", "3"], ["right", "--side-a"], ["nothing"], [], ["-x"], ["solve"],
                   ["report"], ["report", "a.geo", "b.geo"], ["data"], ["right", "\x1b[31m\n"], ["RIGHT"]):
         bench.refuses(2, "", *words)
 
 
+def test_a_name_in_brackets_is_one_name(bench):
+    (bench.folder / "a.geo").write_bytes(b"I\r\n")
+    bench.refuses(5, "[a.geo] can't be read", "report", "[a.geo]")
+    (bench.folder / "[a.geo,b]").write_bytes(b"I\r\n")
+    same(bench.ok("report", "[a.geo,b]"), "Scale: Inches\r\n\r\n", "brackets")
+
+
+def test_long_texts_are_told_in_part(bench):
+    (bench.folder / "long.bcf").write_bytes(b"9x" * 5000000 + b"\r\n")
+    done = bench.run("export", "long.bcf", "-", "--as", "csv", "--unit", "mm")
+    same((done.returncode, done.stdout, len(done.stderr)), (3, b"", 1001), "a long line")
+    assert done.stderr.startswith(b"brindlex-cli export: long.bcf: the center's X is no number: 9x9x"), done.stderr
+    bench.refuses(2, "this must be above 0", "right", "--side-b", "3", "--side-a", "-" + "0" * 5000)
+
+
 def test_help(bench):
-    commands = ("right", "oblique", "bolt", "sine", "polygon", "speeds", "solve", "report", "data")
+    commands = ("right", "oblique", "bolt", "sine", "polygon", "speeds", "solve", "report", "export", "data")
     text = bench.ok("--help")
     for command in commands:
         assert f"  {command} " in text, command

@@ -127,6 +127,7 @@ def test_a_batch_gives_the_rows_of_single_runs(bench):
         words = ["--side-a", a, *(["--side-b", b] if b else []), *(["--angle-b", angle] if angle else [])]
         singles += bench.rows("right", *words, "--places", "7")
     same(bench.rows("right", "--batch", "--places", "7", given=given.encode()), singles, "batch")
+    same(bench.rows("right", "--batch", "--places", "7", given=given.replace(",", ", ").encode()), singles, "with blanks")
     same([row["side_b"] for row in bench.json("right", "--batch", given=given.encode())], [2.5, 5, 0.5], "batch as JSON")
 
 

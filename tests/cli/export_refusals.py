@@ -66,6 +66,7 @@ def test_documents(bench):
     before = []
     for name, lines, part in [
         ("empty.geo", ["I"], "empty.geo: the drawing is empty"), ("note.geo", ["M", "a note"], "the drawing is empty"),
+        ("text.geo", ["a note"], "text.geo: this is no drawing"), ("none.geo", [], "none.geo: this is no drawing"),
         ("flat.geo", ["M", record(3, "Circle", "0", "1", "1")], "circle 3 has no diameter"),
         ("huge.geo", ["M", record(1, "Line", "-1E308", "0", "1E308", "0")], "a value is too large"),
     ]:
@@ -99,6 +100,14 @@ def test_places(bench):
     bench.refused(5, "none/a.dxf can't be written", "a.geo", "none/a.dxf")
     bench.refused(5, "none.geo can't be read", "none.geo", "a.dxf")
     bench.refused(5, "/dev/full can't be written", "a.geo", "/dev/full", "--as", "csv", "--force")
+    drawing = bench.path("a.geo").read_bytes()
+    os.symlink("a.geo", bench.path("same.csv"))
+    os.link(bench.path("a.geo"), bench.path("hard.csv"))
+    for out in ("a.geo", "./a.geo", "same.csv", "hard.csv"):
+        bench.refused(2, f"{out} is the document itself", "a.geo", out, "--as", "csv", "--force")
+        expect(bench.path("a.geo").read_bytes() == drawing, "the drawing was replaced by way of", out)
+    os.remove(bench.path("same.csv"))
+    os.remove(bench.path("hard.csv"))
     bench.export("a.geo", "old.dxf", "--force")
     expect(bench.path("old.dxf").read_bytes().endswith(b"EOF\n"), "the new file is not whole")
     os.symlink("nowhere", bench.path("link.csv"))

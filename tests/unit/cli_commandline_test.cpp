@@ -51,13 +51,43 @@ INSTANTIATE_TEST_SUITE_P(
         Row{{"echo", "--name", "x", "--name", "y"}, 2, "", "brindlex-cli echo: --name is given more than once\n"},
         Row{{"echo", "--flag", "--flag"}, 2, "", "brindlex-cli echo: --flag is given more than once\n"},
         Row{{"echo", "a", "b", "c"}, 2, "", "brindlex-cli echo: c is one word too many\n"},
-        Row{{"bare", "a"}, 2, "", "brindlex-cli bare: The following argument was not expected: a\n"},
-        Row{{"bare", "--nam\n"}, 2, "", "brindlex-cli bare: The following argument was not expected: --nam?\n"},
+        Row{{"echo", "[a,b]"}, 0, "- [[a,b]]", ""}, Row{{"echo", "-", "{}"}, 0, "- [-] [{}]", ""},
+        Row{{"echo", "--", "--", "-x"}, 0, "- [--] [-x]", ""},
+        Row{{"bare", "a"}, 2, "", "brindlex-cli bare: a is one word too many\n"},
+        Row{{"bare", "--nam\n"}, 2, "", "brindlex-cli bare: --nam? is no option here; --help lists them\n"},
+        Row{{"echo", "--nam", "x"}, 2, "", "brindlex-cli echo: --nam is no option here; --help lists them\n"},
+        Row{{"echo", "-n", "x"}, 2, "", "brindlex-cli echo: -n is no option here; --help lists them\n"},
+        Row{{"echo", "--name"}, 2, "", "brindlex-cli echo: --name has nothing behind it\n"},
+        Row{{"echo", "--name=", "--flag"}, 2, "", "brindlex-cli echo: --name has nothing behind it\n"},
+        Row{{"echo", "--name=="}, 0, "=", ""}, Row{{"echo", "--", "--name="}, 0, "- [--name=]", ""},
+        Row{{"echo", "--flag=true"}, 2, "", "brindlex-cli echo: --flag takes nothing behind it\n"},
+        Row{{"echo", "--flag=no"}, 2, "", "brindlex-cli echo: --flag takes nothing behind it\n"},
         Row{{"one"}, 2, "", "brindlex-cli one: FILE is missing\n"},
         Row{{"two"}, 2, "", "brindlex-cli two: two is no command; --help lists them\n"},
         Row{{""}, 2, "", "brindlex-cli:  is no command; --help lists them\n"},
         Row{{}, 2, "", "brindlex-cli: a command is missing; --help lists them\n"},
         Row{{"--version"}, 0, "brindlex-cli 3.0.2\n", ""}));
+
+TEST(CommandLineMessage, LeavesTheMiddleOfALongOneOut) {
+    // The line that is told of is 1000 characters: 795 of the head, " ... ", 200 of the tail.
+    const std::string tail = " is no command; --help lists them";
+    const std::string head = "brindlex-cli " + std::string(5000, 'x');
+    const Outcome outcome = Answer({std::string(5000, 'x')});
+    EXPECT_EQ(outcome.Err, head.substr(0, 795) + " ... " + std::string(200 - tail.size(), 'x') + tail + "\n");
+    // Two bytes a letter, of which the first comes at an odd place: none is cut in two.
+    std::string letters;
+    while (letters.size() < 2000) {
+        letters += "\xC3\xA9";
+    }
+    for (const char* const before : {"", "x"}) {
+        const std::string told = Answer({"bare", before + letters}).Err;
+        const auto half = [&](std::size_t at) { return (static_cast<unsigned char>(told[at]) & 0xC0U) == 0x80U; };
+        const std::size_t gap = told.find(" ... ");
+        ASSERT_NE(gap, std::string::npos);
+        EXPECT_EQ(told.substr(gap - 2, 2), "\xC3\xA9");
+        EXPECT_FALSE(half(gap + 5));
+    }
+}
 
 TEST(CommandLineHelp, TellsOptionsAndSketch) {
     EXPECT_EQ(Answer({"echo", "--help"}).Out,
