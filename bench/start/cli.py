@@ -1,7 +1,7 @@
 #!/usr/bin/env python3
 """Starts brindlex-cli and a bare C++ program by turns, from start to printed answer: cli.py BIN [RUNS]
 
-BIN is the folder of the built programs. Two starts of one are followed by two of the other, so that whatever else the
+BIN is the folder of the built programs. A start of one is followed by a start of the other, so that whatever else the
 machine does falls on both. Then it times a batch of triangles from standard input.
 """
 

@@ -1,12 +1,15 @@
-"""The guide's page of the command line: each command that it shows prints what it shows."""
+"""The guide's page of the command line: each command that it shows prints what it shows. The man page: every option."""
 
 import os
 import pathlib
+import re
 import subprocess
 
 from cli_bench import same
 
-PAGE = pathlib.Path(__file__).resolve().parent.parent.parent / "docs" / "guide" / "command-line.md"
+ROOT = pathlib.Path(__file__).resolve().parent.parent.parent
+PAGE = ROOT / "docs" / "guide" / "command-line.md"
+MAN = ROOT / "packaging" / "man" / "brindlex-cli.1"
 FILES = {
     "flange.bcf": b"0\r\n0\r\n120\r\n8\r\n22.5\r\n 0 \r\n",
     "lever.geo": b"I\r\n 1             2                          1                           1                           Circle\r\n"
@@ -49,3 +52,21 @@ def test_every_command_of_the_page(bench):
         done = subprocess.run(["bash", "-c", command], cwd=bench.folder, env=environment, stdout=subprocess.PIPE,
                               stderr=subprocess.STDOUT, text=True, check=False)
         same(done.stdout, printed, command)
+
+
+def options_of(text):
+    return set(re.findall(r"(?<![\w-])--[a-z][a-z-]*", text))
+
+
+def test_every_option_stands_in_the_man_page(bench):
+    page = MAN.read_text(encoding="utf-8").replace("\\-", "-")
+    sections = re.split(r"^\.S([HS]) (.*)$", page, flags=re.MULTILINE)
+    texts = {title.split()[0]: text for title, text in zip(sections[2::3], sections[3::3])}
+    common = options_of(texts["COMMON"])
+    commands = re.findall(r"^  ([a-z]+)  ", bench.ok("--help"), re.MULTILINE)
+    same(len(commands), 10, "commands")
+    for command in commands:
+        helped = options_of("\n".join(re.findall(r"^  --.*?(?=  |$)", bench.ok(command, "--help"), re.MULTILINE)))
+        told = options_of("\n".join(re.findall(r"^\.B.*", texts[command], re.MULTILINE)))
+        same(helped - told - common, set(), f"options of {command} that the man page does not tell")
+        same(told - helped, set(), f"options that the man page tells of {command} and that are none")
