@@ -65,6 +65,8 @@ public:
 private:
     void Line(std::initializer_list<std::string_view> words);
     void Comment(const std::string& text) { Line({"(" + CommentText(text) + ")"}); }
+    /// Parts with commas between them, on as many lines as they need: a number that is cut short would be another.
+    void Comments(std::initializer_list<std::string> parts);
     /// A word with a length: "X12.5".
     [[nodiscard]] std::string Word(std::string_view letter, double value) const {
         return std::string(letter) + DecimalText(value, places_);
@@ -90,15 +92,28 @@ void Program::Line(std::initializer_list<std::string_view> words) {
     text_ += '\n';
 }
 
+void Program::Comments(std::initializer_list<std::string> parts) {
+    constexpr std::string_view Comma = ", ";
+    std::string line;
+    for (const std::string& part : parts) {
+        if (!line.empty() && line.size() + Comma.size() + part.size() > LongestComment) {
+            Comment(line);
+            line.clear();
+        }
+        line.append(line.empty() ? "" : Comma).append(part);
+    }
+    Comment(line);
+}
+
 void Program::Head(const std::string& source) {
     const Drilling& d = drilling_;
     Comment("Brindlex: " + std::to_string(pattern_.Holes.size()) + " holes on a bolt circle, from " + source);
     Comment("Check this program before it is run on a machine");
     Comment("Lengths in " + std::string(UnitPlural(unit_)) + ", Z 0 is the top of the work");
-    Comment("Center " + Word("X", pattern_.Centre.X) + " " + Word("Y", pattern_.Centre.Y) + ", diameter " +
-            Word("", pattern_.Diameter) + ", start angle " + Word("", pattern_.StartAngle));
-    Comment((d.Peck ? "Pecks of " + Word("", *d.Peck) + " to " : std::string("One plunge to ")) + Word("Z", d.Depth) +
-            ", feed from " + Word("Z", d.Retract) + ", ways at " + Word("Z", d.SafeHeight));
+    Comments({"Center " + Word("X", pattern_.Centre.X) + " " + Word("Y", pattern_.Centre.Y),
+              "diameter " + Word("", pattern_.Diameter), "start angle " + Word("", pattern_.StartAngle)});
+    Comments({(d.Peck ? "Pecks of " + Word("", *d.Peck) + " to " : std::string("One plunge to ")) + Word("Z", d.Depth),
+              "feed from " + Word("Z", d.Retract), "ways at " + Word("Z", d.SafeHeight)});
 }
 
 /// G17 the plane of X and Y, G40 no cutter compensation, G80 no cycle left over, G90 absolute, G94 feed a minute. The

@@ -76,6 +76,15 @@ def test_words(bench):
                     expect(hole[2:] == (bottom, retract, safe, peck), hole)
 
 
+def test_no_number_of_the_head_is_cut_short(bench):
+    bench.bolt_circle("b.bcf", "-32744.481234", "10888.835678", "19170.678123", 4, "123.456789")
+    text = bench.export("b.bcf", "-", "--as", "nc", "--unit", "in", "--safe-height", "12345.678901", "--retract",
+                        "2345.678901", "--depth", "-12345.678901", "--peck", "1234.567891", "--feed", "1", "--spindle", "9")
+    expect(text.decode().split("\n")[3:8] == ["(CENTER X-32744.481234 Y10888.835678, DIAMETER 19170.678123)",
+                                   "(START ANGLE 123.456789)", "(PECKS OF 1234.567891 TO Z-12345.678901)",
+                                   "(FEED FROM Z2345.678901, WAYS AT Z12345.678901)", "G20 G17 G40 G80 G90 G94"], text)
+
+
 def test_heads_and_file(bench):
     bench.bolt_circle("odd (name); no_2.bcf", 0, 0, 50, 3, 0)
     bench.export("odd (name); no_2.bcf", "b.nc", "--unit", "mm", *MILLING)
