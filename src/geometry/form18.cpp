@@ -12,8 +12,8 @@ namespace brindlex::geometry {
 
 namespace {
 
-constexpr double DesignWidth = 7680;
-constexpr double DesignHeight = 5535;
+constexpr double DesignWidth = 5532;
+constexpr double DesignHeight = 4692;
 
 }  // namespace
 

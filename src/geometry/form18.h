@@ -16,9 +16,9 @@ class Form18 : public Form {
 public:
     explicit Form18(Program& program);
 
-    TextBox Text1{*this, "Text1", {120, 120, 7440, 4800}};
-    CommandButton Command1{*this, "Command1", {1680, 5040, 1800, 375}, "&OK"};
-    CommandButton Command2{*this, "Command2", {4200, 5040, 1800, 375}, "Print Report"};
+    TextBox Text1{*this, "Text1", {120, 120, 5292, 3960}};
+    CommandButton Command1{*this, "Command1", {1140, 4200, 1440, 375}, "&OK"};
+    CommandButton Command2{*this, "Command2", {2940, 4200, 1440, 375}, "Print Report"};
     CommonDialog CommonDialog1{*this, "CommonDialog1"};
 
 protected:
