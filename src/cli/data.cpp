@@ -3,8 +3,8 @@
 
 #include "cli/csv.h"
 #include "cli/files.h"
+#include "cli/speeds.h"
 #include "frame/textfile.h"
-#include "speedsfeeds/ranges.h"
 #include "speedsfeeds/record.h"
 
 #include <algorithm>
@@ -108,15 +108,6 @@ std::string List(const std::string& file, const Arguments& given, Style style) {
 }
 
 // Checks.
-
-bool IsPositive(std::string_view text) {
-    return IsNumber(text) && speedsfeeds::NumberOf(text) > 0;
-}
-
-bool IsRange(const std::string& range) {
-    const auto ends = speedsfeeds::SplitRange(range);
-    return ends ? IsPositive(ends->Left.Text) && IsPositive(ends->Right.Text) : IsPositive(range);
-}
 
 /// What is wrong with a record by itself; nothing where all is well.
 std::string FaultOf(const Parsed& parsed) {

@@ -8,6 +8,7 @@
 #include "cli/failure.h"
 #include "frame/fault.h"
 #include "frame/shared.h"
+#include "frame/textfile.h"
 #include "geometry/crossings.h"
 
 #include <array>
@@ -104,7 +105,8 @@ boltcircle::Entries EntriesOf(const std::vector<std::string>& lines) {
     }
     for (std::size_t i = 0; i < texts.size(); ++i) {
         if (!WholeNumberText(*texts[i])) {
-            Refuse(std::string(EntryNames[i]) + (texts[i]->empty() ? " is missing" : " is no number: " + *texts[i]));
+            Refuse(std::string(EntryNames[i]) +
+                   (texts[i]->empty() ? " is missing" : " is no number: " + Utf8FromText(*texts[i])));
         }
     }
     return entries;

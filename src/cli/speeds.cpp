@@ -62,16 +62,10 @@ Setup SetupFrom(const Arguments& given) {
             machine == "mill" ? Machine::Mill : Machine::Lathe};
 }
 
-/// A number, or two with "-" between them.
 std::string RangeFrom(const Arguments& given, std::string_view option) {
-    const std::string_view text = *given.Text(option);
-    const std::size_t minus = text.find('-');
-    Arguments ends;
-    ends.Set(option, text.substr(0, minus));
-    std::string range = NumberFrom(ends, option, Sign::Positive);
-    if (minus != std::string_view::npos) {
-        ends.Set(option, text.substr(minus + 1));
-        range.append("-").append(NumberFrom(ends, option, Sign::Positive));
+    std::string range = Trimmed(*given.Text(option));
+    if (!IsRange(range)) {
+        throw Failure(Exit::Usage, std::string(option) + " " + range + ": this is no range above 0");
     }
     return range;
 }
@@ -187,21 +181,37 @@ std::string MaskFrom(const Arguments& given, SharedState& shared) {
                                  : std::string(speedsfeeds::ResultMask);
 }
 
+/// What stands in cutting data need not be a number, and the calculator takes it for 0 then.
+void RefuseUnlessNumbers(const Entries& entries) {
+    for (const EntryRow& row : Rows) {
+        const std::string& text = entries.*row.Text;
+        if (row.As != Reads::Range && !text.empty() && !IsPositive(Trimmed(text))) {
+            std::string name(row.Option.substr(2));
+            std::replace(name.begin(), name.end(), '-', ' ');
+            throw Failure(Exit::BadInput, "the " + name + " of these data is no number above 0: " + Utf8FromText(text));
+        }
+    }
+}
+
 Answer AnswerSpeeds(Entries entries, const Setup& setup, const Arguments& given) {
     if (const auto refusal = speedsfeeds::OutOfRange(entries, setup.On)) {
-        throw Failure(Exit::NoSolution, OnOneLine(refusal->Message));
+        throw Failure(Exit::NoSolution, OnOneLine(Utf8FromText(refusal->Message)));
     }
+    RefuseUnlessNumbers(entries);
     SharedState shared;
     WorkOutPi(shared);
     const speedsfeeds::Results results =
         speedsfeeds::Calculate(entries, setup.Data, setup.On, shared.Pi, /*rateOnShow=*/false, MaskFrom(given, shared));
+    if (results.Skipped) {
+        throw Failure(Exit::NoSolution, "a result is beyond the range of numbers");
+    }
     // The power is worked out with the factor in four decimals: that one is told.
     entries.PowerFactor = results.PowerFactor.value_or(entries.PowerFactor);
     Answer answer{"speeds", WordOf(setup.Lengths), {}, {}, {}, {}};
     answer.Items.push_back({"machine", setup.On == Machine::Mill ? "mill" : "lathe", "", false, true});
     for (const EntryRow& row : Rows) {
-        answer.Items.push_back({row.Name, Trimmed(entries.*row.Text), setup.Metric() ? row.MetricUnit : row.InchUnit,
-                                row.As != Reads::Range, true});
+        answer.Items.push_back({row.Name, Utf8FromText(Trimmed(entries.*row.Text)),
+                                setup.Metric() ? row.MetricUnit : row.InchUnit, row.As != Reads::Range, true});
     }
     answer.Items.push_back({"spindle_speed", results.SpindleSpeed, "rpm", true, false});
     answer.Items.push_back({"feed_rate", results.FeedRate, FeedRateUnit(setup), true, false});
@@ -213,6 +223,15 @@ Answer AnswerSpeeds(Entries entries, const Setup& setup, const Arguments& given)
 }
 
 }  // namespace
+
+bool IsPositive(std::string_view text) {
+    return IsNumber(text) && speedsfeeds::NumberOf(text) > 0;
+}
+
+bool IsRange(std::string_view range) {
+    const auto ends = speedsfeeds::SplitRange(range);
+    return ends ? IsPositive(ends->Left.Text) && IsPositive(ends->Right.Text) : IsPositive(range);
+}
 
 Answer SolveSpeeds(const Arguments& given) {
     const Setup setup = SetupFrom(given);

@@ -5,8 +5,14 @@
 #include "cli/calculation.h"
 
 #include <string>
+#include <string_view>
 
 namespace brindlex::cli {
+
+/// Whether a text is a number above 0 with nothing before or behind it.
+[[nodiscard]] bool IsPositive(std::string_view text);
+/// The same of one number, or of two with "-" between them.
+[[nodiscard]] bool IsRange(std::string_view range);
 
 [[nodiscard]] Answer SolveSpeeds(const Arguments& given);
 [[nodiscard]] std::string RunSpeeds(const Arguments& given, const StandardInput& input);

@@ -152,10 +152,17 @@ oblique::Triangle SolveAccepted(std::string_view entry, ObliqueEntries entries, 
     } catch (const Fault& fault) {
         refusal = oblique::RefusalOf(fault.Number());
     }
-    if (refusal != oblique::Refusal::None) {
-        throw Failure(Exit::NoSolution, OnOneLine(oblique::RefusalText(refusal)));
+    switch (refusal) {
+        case oblique::Refusal::None:
+            return triangle;
+        case oblique::Refusal::NotPositive:
+        case oblique::Refusal::IllegalFunctionCall:
+        case oblique::Refusal::DivisionByZero:
+            throw Failure(Exit::NoSolution, second ? "these values make no triangle by the second solution"
+                                                   : "these values make no triangle");
+        default:
+            throw Failure(Exit::NoSolution, OnOneLine(oblique::RefusalText(refusal)));
     }
-    return triangle;
 }
 
 Answer AnswerOblique(const std::array<oblique::Element, ObliqueKnown>& known, const oblique::Triangle& triangle,

@@ -47,11 +47,11 @@ Checked UnitsPerLength(Unit unit) {
     return unit == Unit::Inch ? InchesPerFoot : MillimetersPerMeter;
 }
 
-/// A step's result, 0 where it faults.
+/// A step's result; 0 where it faults, which is noted then.
 template <class Step>
-Checked OrZero(Step&& step) {
+Checked OrZero(bool& skipped, Step&& step) {
     Checked result;
-    Guarded([&] { result = step(); });
+    skipped = !Guarded([&] { result = step(); }) || skipped;
     return result;
 }
 
@@ -132,7 +132,8 @@ std::string HoursText(double minutes) {
 
 std::string TimeText(double minutes) {
     if (minutes < 1) {
-        const Checked seconds = OrZero([&] { return Checked(minutes) * SecondsPerMinute; });
+        bool skipped = false;
+        const Checked seconds = OrZero(skipped, [&] { return Checked(minutes) * SecondsPerMinute; });
         return Format(seconds.Value(), TwoDigits) + " Sec.";
     }
     return minutes < MinutesPerHour ? MinutesText(minutes) : HoursText(minutes);
@@ -142,27 +143,28 @@ Results Calculate(const Entries& entries, Unit unit, Machine machine, double pi,
                   std::string_view mask) {
     const Numbers n(entries);
     Results results;
+    const auto tried = [&](auto&& step) { return OrZero(results.Skipped, step); };
 
-    const Checked rpm = OrZero([&] { return (UnitsPerLength(unit) * n.SurfSpeed) / (Checked(pi) * n.Diameter); });
+    const Checked rpm = tried([&] { return (UnitsPerLength(unit) * n.SurfSpeed) / (Checked(pi) * n.Diameter); });
     results.SpindleSpeed = Format(rpm.Value(), mask);
 
-    const Checked feedRate = OrZero([&] { return RatePerMinute(n, rpm, machine); });
+    const Checked feedRate = tried([&] { return RatePerMinute(n, rpm, machine); });
     results.FeedRate = Format(unit == Unit::Inch ? feedRate.Value() : (feedRate / MillimetersPerMeter).Value(), mask);
 
     Checked removalRate;
     if (!entries.CutDepth.empty() && !entries.CutWidth.empty()) {
-        removalRate = OrZero([&] { return RemovalRate(n, feedRate, unit, machine); });
+        removalRate = tried([&] { return RemovalRate(n, feedRate, unit, machine); });
         results.RemovalRate = Format(removalRate.Value(), mask);
     }
     if (!entries.CutLength.empty() && !entries.CutCount.empty()) {
-        const Checked minutes = OrZero([&] { return MinutesInCut(n, unit, pi); });
+        const Checked minutes = tried([&] { return MinutesInCut(n, unit, pi); });
         results.CutTime = TimeText(0);
-        Guarded([&] { results.CutTime = TimeText(minutes.Value()); });
+        results.Skipped = !Guarded([&] { results.CutTime = TimeText(minutes.Value()); }) || results.Skipped;
     }
     if ((results.RemovalRate || rateOnShow) && !entries.PowerFactor.empty()) {
         std::string factor = entries.PowerFactor;
         Guarded([&] { factor = Str(Val(Format(Val(factor), FactorMask))); });
-        const Checked power = OrZero([&] { return removalRate * Val(factor); });
+        const Checked power = tried([&] { return removalRate * Val(factor); });
         results.PowerFactor = factor;
         results.Power = Format(power.Value(), mask);
     }

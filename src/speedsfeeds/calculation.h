@@ -51,6 +51,7 @@ struct Results {
     std::optional<std::string> CutTime;
     std::optional<std::string> PowerFactor;  ///< the entry, rounded to four places
     std::optional<std::string> Power;
+    bool Skipped = false;  ///< a step faulted
 };
 
 /// One decimal, without a digit before the point for values below 1.

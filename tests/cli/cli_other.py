@@ -159,6 +159,12 @@ def compare_speeds(bench, desktop, machine, unit, cut):
     same([row[name] for name in names], desktop.texts("Form19", boxes), words)
 
 
+def test_speeds_beyond_the_range_of_numbers(bench):
+    words = ["speeds", "--surface-speed", "1e300", "--feed", "1", "--teeth", "1", "--diameter"]
+    bench.refuses(4, "a result is beyond the range of numbers", *words, "1e-300")
+    bench.refuses(4, "a result is beyond the range of numbers", *words, "1", "--depth", "1e300", "--width", "1")
+
+
 def test_speeds_with_more_decimals(bench):
     # 1000 x 120 / (10 pi) = 3819.71863; x .05 x 4 / 1000 = .763943; 2 x 3 x 763.943 / 60000 = .076394; x .5 = .038197.
     words = ["speeds", "--unit", "mm", "--surface-speed", "120", "--feed", ".05", "--diameter", "10", "--teeth", "4",
@@ -197,5 +203,14 @@ def test_speeds_from_cutting_data(bench):
     row = bench.rows(*base, "--diameter", "12", "--unit", "mm")[0]
     same([row["surface_speed"], row["feed"]], ["150", ".05"], "metric data")
     bench.refuses(4, "Range of 500-1000", *base, "--diameter", ".5", "--surface-speed", "499")
+    (bench.folder / "Bad.dat").write_bytes(b"I_a!b@speed#x$.005%^\r\nI_a!b@feed#100$.05x-.1%^\r\nI_a!b@factor#100$.1%2\xb0^\r\n"
+                                           b"I_a!b@zero#0$.1%^\r\nI_a!b@range#0-100$.1%^\r\n")
+    bad = ["speeds", "--data", "Bad.dat", "--tool", "a", "--tool-material", "b", "--diameter", "1", "--teeth", "2",
+           "--work-material"]
+    bench.refuses(3, "the surface speed of these data is no number above 0: x", *bad, "speed")
+    bench.refuses(3, "the feed of these data is no number above 0: .05x", *bad, "feed")
+    bench.refuses(3, "the power factor of these data is no number above 0: 2\u00b0", *bad, "factor")
+    bench.refuses(3, "the surface speed of these data is no number above 0: 0", *bad, "zero")
+    bench.refuses(4, "Contains an Illegal Value", *bad, "range")
     bench.refuses(3, "no data in this unit", "speeds", "--data", "Mill.dat", "--tool", "Drill", "--tool-material", "HSS",
                   "--work-material", "Steel", "--diameter", "6", "--teeth", "2", "--unit", "mm")

@@ -80,6 +80,15 @@ def test_out_of_range(bench):
         bench.refuses(2, "--angle-b", "right", "--side-a", "5", "--angle-b", angle)
 
 
+def test_ranges(bench):
+    rest = words_of("speeds", {name: text for name, text in GOOD["speeds"].items() if "range" not in name})
+    for option, good in (("--speed-range", ("100", "200-50", " 50-200 ")), ("--feed-range", (".002", ".001-.002"))):
+        for text in good:
+            bench.ok(*rest, option, text)
+        for text in ("100-", "-100", "1-2-3", "50 200", "50..200", "1e999", "0-100", "-", "50-2x", "50 - 200", "\u00bd"):
+            bench.refuses(2, f"{option} {text}: this is no range above 0", *rest, option, text)
+
+
 def test_wrong_unit(bench):
     for command, options in GOOD.items():
         for option in options:

@@ -119,6 +119,17 @@ def test_angles_in_minutes_are_read_as_the_desktop_reads_them(bench):
         same([row["side_b"], row["side_c"]], texts, angle)
 
 
+def test_what_makes_no_oblique_triangle(bench):
+    for words in ("--side-a 1 --side-b 2 --side-c 3", "--side-a 1 --side-b 2 --side-c 4", "--angle-a 30 --side-a 3 --side-b 10",
+                  "--angle-a 100 --angle-b 90 --side-a 10"):
+        bench.refuses(4, "brindlex-cli oblique: these values make no triangle", "oblique", *words.split())
+    # B is 55.15 degrees; the other would be 124.85, and with the 80 of A that leaves nothing for C.
+    words = "--angle-a 80 --side-a 6 --side-b 5".split()
+    bench.ok("oblique", *words)
+    bench.refuses(4, "these values make no triangle by the second solution", "oblique", *words, "--second")
+    bench.refuses(4, "OVERFLOW", "oblique", "--side-a", "1e300", "--side-b", "1e300", "--side-c", "1e300")
+
+
 def test_a_batch_gives_the_rows_of_single_runs(bench):
     rows = [("5", "", "30"), ("13", "5", ""), ("1", ".5", "")]
     given = "side_a,side-b,--angle-b\r\n" + "".join(",".join(row) + "\r\n" for row in rows)

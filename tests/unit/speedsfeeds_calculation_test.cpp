@@ -75,6 +75,12 @@ TEST(CuttingCalculation, AHalfInchEndMill) {
     EXPECT_EQ(results.PowerFactor, " .1235");
     EXPECT_EQ(results.Power, "11.3");       // 91.673 x .1235 = 11.322
     EXPECT_EQ(results.CutTime, "0:13:05");  // 31.41593 / 2.4 = 13.08997
+    EXPECT_FALSE(results.Skipped);
+    results = Calculate(entries, Unit::Inch, Machine::Mill, 3.14159265358979, false, ".000");
+    EXPECT_EQ(results.SpindleSpeed, "763.944");
+    EXPECT_EQ(results.FeedRate, "6.112");
+    EXPECT_EQ(results.RemovalRate, "91.673");
+    EXPECT_EQ(results.Power, "11.322");
 }
 
 TEST(CuttingCalculation, MetricAndLathe) {
@@ -151,6 +157,7 @@ TEST(CuttingCalculation, FaultsLeaveZeros) {
         EXPECT_EQ(results.RemovalRate, ".0") << c.what;
         EXPECT_EQ(results.Power, ".0") << c.what;
         EXPECT_EQ(results.PowerFactor, "1E999") << c.what;
+        EXPECT_TRUE(results.Skipped) << c.what;
     }
 }
 
@@ -167,6 +174,7 @@ TEST(CuttingCalculation, ATimeAtTheEndOfAllNumbersIsNone) {
     entries.CutCount = "1";
     const Results results = Calculate(entries, Unit::Metric, Machine::Mill, 1, false);
     EXPECT_EQ(results.CutTime, "00 Sec.");
+    EXPECT_TRUE(results.Skipped);
 }
 
 TEST(TimeText, AllForms) {
