@@ -1,8 +1,8 @@
-// What fuzzers of whole forms share: a folder that goes away with the fuzzer, and one run of a form that opens
-// documents.
+// What fuzzers of whole forms share: one run of a form that opens documents.
 #pragma once
 
 #include "readfuzz.h"
+#include "scratch.h"
 
 #include "app/forms.h"
 #include "frame/drivenrun.h"
@@ -11,38 +11,13 @@
 #include "services/minutesdialog.h"
 #include "services/rounddialog.h"
 
-#include <stdlib.h>  // mkdtemp
-
 #include <algorithm>
 #include <cstddef>
 #include <cstdint>
-#include <filesystem>
-#include <fstream>
 #include <string>
 #include <string_view>
-#include <system_error>
 
 namespace brindlex {
-
-class ScratchFolder {
-public:
-    ScratchFolder() {
-        std::string path = (std::filesystem::temp_directory_path() / "brindlex-fuzz-XXXXXX").string();
-        Demand(::mkdtemp(path.data()) != nullptr);
-        path_ = path;
-    }
-    ~ScratchFolder() {
-        std::error_code ignored;
-        std::filesystem::remove_all(path_, ignored);
-    }
-    ScratchFolder(const ScratchFolder&) = delete;
-    ScratchFolder& operator=(const ScratchFolder&) = delete;
-
-    [[nodiscard]] const std::filesystem::path& Path() const { return path_; }
-
-private:
-    std::filesystem::path path_;
-};
 
 /// Fills the small dialogs in and leaves them; the numbers come from the input.
 inline void AnswerDialog(Form& dialog, std::size_t number) {
@@ -74,7 +49,7 @@ int RunDocument(const DocumentFuzz<Calculator>& fuzz, const std::uint8_t* data, 
     static const ScratchFolder scratch;
     const std::string_view input = TextOf(data, size);
     const std::size_t end = std::min(input.find('\n'), input.size());
-    std::ofstream(scratch.Path() / fuzz.File, std::ios::binary) << input.substr(std::min(end + 1, input.size()));
+    static_cast<void>(scratch.Put(fuzz.File, input.substr(std::min(end + 1, input.size()))));
     DrivenRun run;
     run.ModalLoop = [&](Form& dialog) { AnswerDialog(dialog, size); };
     HeadlessRuntime runtime(run, {1024, 768});

@@ -89,7 +89,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     static const ScratchFolder scratch;
     const std::string_view input(reinterpret_cast<const char*>(data), std::min(size, LongestFile));
     const std::size_t end = std::min(input.find('\n'), input.size());
-    std::ofstream(scratch.Path() / "a.geo", std::ios::binary) << input.substr(std::min(end + 1, input.size()));
+    static_cast<void>(scratch.Put("a.geo", input.substr(std::min(end + 1, input.size()))));
     DrivenRun run;
     HeadlessRuntime runtime(run, {1024, 768});
     Program program(runtime, Folder(scratch.Path()));
