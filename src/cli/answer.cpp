@@ -1,6 +1,8 @@
 // Answers as tables, JSON and CSV.
 #include "cli/answer.h"
 
+#include "cli/failure.h"
+#include "frame/fault.h"
 #include "frame/text.h"
 
 #include <nlohmann/json.hpp>
@@ -77,7 +79,11 @@ Json ValueOf(const Item& item) {
     if (!item.Number) {
         return item.Text;
     }
-    const double value = Val(item.Text);
+    double value = 0;
+    // The fifteen digits of the very largest numbers round up to more than there is.
+    if (!Guarded([&] { value = Val(item.Text); })) {
+        throw Failure(Exit::NoSolution, "the " + Spoken(item.Name) + " is beyond the range of numbers");
+    }
     constexpr double Exact = 9007199254740992.0;  // 2 to the 53rd: whole numbers up to here are written as such
     if (Fix(value) == value && std::abs(value) <= Exact) {
         return static_cast<std::int64_t>(value);

@@ -159,6 +159,15 @@ def compare_speeds(bench, desktop, machine, unit, cut):
     same([row[name] for name in names], desktop.texts("Form19", boxes), words)
 
 
+def test_the_very_largest_number_is_no_json(bench):
+    # Its fifteen digits are 1.79769313486232E+308, which is more than the largest double.
+    words = ["sine", "--angle", "30", "--spacing", "1.7976931348623157e308"]
+    same(bench.rows(*words)[0]["spacing"], "1.79769313486232E+308", "CSV")
+    bench.refuses(4, "the spacing is beyond the range of numbers", *words, "--json")
+    bench.refuses(4, "line 2: the spacing is beyond the range of numbers", *words[:1], *words[3:], "--batch", "--json",
+                  given=b"angle\n30\n")
+
+
 def test_speeds_beyond_the_range_of_numbers(bench):
     words = ["speeds", "--surface-speed", "1e300", "--feed", "1", "--teeth", "1", "--diameter"]
     bench.refuses(4, "a result is beyond the range of numbers", *words, "1e-300")
