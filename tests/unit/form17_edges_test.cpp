@@ -176,6 +176,19 @@ TEST_F(FileEdges, ThePictureFollowsScrollBarsThatStay) {
     EXPECT_EQ(form->Picture1.ScaleTop(), 32767);
 }
 
+TEST_F(FileEdges, ThePictureFollowsOneScrollBarThatStays) {
+    for (const bool up : {false, true}) {
+        EXPECT_TRUE(form->ChooseByPerson(form->NewGeo));
+        PlaceCircle(up ? "0" : "40000", up ? "40000" : "0", "1");
+        Tool("Fit");
+        EXPECT_TRUE(form->ChooseByPerson(form->MM));
+        EXPECT_EQ(form->HScroll1.Value(), up ? 0 : 32767);
+        EXPECT_EQ(form->VScroll1.Value(), up ? 32767 : 0);
+        EXPECT_EQ(form->Picture1.ScaleLeft(), up ? 0 : 32767);
+        EXPECT_EQ(form->Picture1.ScaleTop(), up ? 32767 : 0);
+    }
+}
+
 TEST_F(FileEdges, ADrawingThatCannotBeReadIsNotConverted) {
     PlaceCircle("1", "1", "1");
     BlockTheStore();

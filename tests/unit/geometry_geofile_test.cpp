@@ -49,6 +49,23 @@ TEST(GeometryGeoFile, RecoversUnderFreeNames) {
     EXPECT_TRUE(file.Eof());
 }
 
+TEST(GeometryGeoFile, TheTenThousandthNameIsTheLast) {
+    const TestFolder folder;
+    const std::string point = PointLine(1, "0", "0");
+    folder.Put("recovered.geo", "old");
+    for (int count = 2; count < 10000; ++count) {
+        std::filesystem::create_hard_link(folder.Path() / "recovered.geo",
+                                          folder.Path() / ("recovered-" + std::to_string(count) + ".geo"));
+    }
+    Store(folder.Files()).Append(point);
+    // It is taken over and over rather than looked for without end.
+    for (int i = 0; i < 2; ++i) {
+        EXPECT_EQ(RecoverLeftOver(folder.Files()), "recovered-10000.geo");
+        EXPECT_EQ(folder.Get("recovered-10000.geo"), "I\r\n" + point + "\r\n");
+    }
+    EXPECT_EQ(folder.Get("recovered-9999.geo"), "old");
+}
+
 TEST(GeometryGeoFile, ADrawingThatCanNotBeReadTakesTheNameItself) {
     const TestFolder folder;
     // A device of that kind is not read from.

@@ -70,6 +70,19 @@ TEST(GeometryTangentCircles, LevelCentresNegateTheHeight) {
     EXPECT_TRUE(EveryCircleTouches(lines, ItemAt({3, 1}), 1, exact));
 }
 
+TEST(GeometryTangentCircles, FarUpTheFirstCentresAreLevelWithTheCrossing) {
+    // At 1E17 a radius of 1 is lost in the height, so that none of the rows for the first two centres fits.
+    const Segment a{{0, 0}, {1, 2}};
+    const Segment b{{0, 0}, {2, -1}};
+    const Circles found = FindTangentCircles(RecordsOf(a, b), ItemAt({0, 1e17}), 1, Tangents::AsRuled);
+    EXPECT_GT(found[0].Centre.X, 0);
+    EXPECT_EQ(found[0].Centre.Y, 1e17);
+    for (const std::size_t i : {0U, 1U}) {
+        ExpectAt(found[i].OnA, {0, 0}, "on A");
+        ExpectAt(found[i].OnB, {0, 0}, "on B");
+    }
+}
+
 TEST(GeometryTangentCircles, AxesByHand) {
     // On the level line psi fails and phi is 0, on the upright one psi is 0 and phi fails: P is 0, Q 180, Dk and Tk
     // are skipped and 0. Two centres stay in the crossing, the others go straight up and down, without points.

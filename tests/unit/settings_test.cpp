@@ -119,6 +119,7 @@ TEST(Settings, DocumentsAreReadUpToTheFirstEmptyLine) {
         folder.Put("part.rgt", c.content);
         EXPECT_EQ(ReadDocument(folder.Files(), "part.rgt", 3), c.lines) << c.content;
         EXPECT_EQ(ReadDocument(folder.Files(), (folder.Path() / "part.rgt").string(), 3), c.lines) << c.content;
+        EXPECT_EQ(ReadDocument(folder.Files().OpenInput("part.rgt"), 3), c.lines) << c.content;
     }
 }
 

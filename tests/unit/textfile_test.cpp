@@ -192,6 +192,20 @@ TEST(InputFile, FaultsPastTheEnd) {
     EXPECT_EQ(FaultOf([&] { static_cast<void>(file.LineInput()); }), FaultNumber::FileIo);
 }
 
+TEST(InputFile, GivesTheBytesThatAreLeft) {
+    const TestFolder folder;
+    const std::string content("one\r\ntwo\n\r\0\xFF\x1A", 13);
+    folder.Put("in.txt", content);
+    EXPECT_EQ(folder.Files().OpenInput("in.txt").AllBytes(), content);
+    InputFile file = folder.Files().OpenInput("in.txt");
+    EXPECT_EQ(file.LineInput(), "one");
+    EXPECT_EQ(file.AllBytes(), std::string("two\n\r\0\xFF\x1A", 8));
+    EXPECT_TRUE(file.Eof());
+    EXPECT_EQ(file.AllBytes(), "");
+    folder.Put("in.txt", std::string(20000, 'x'));  // more than is read at once
+    EXPECT_EQ(folder.Files().OpenInput("in.txt").AllBytes(), std::string(20000, 'x'));
+}
+
 TEST(OutputFile, PrintsAndWritesLines) {
     const TestFolder folder;
     OutputFile file = folder.Files().OpenOutput("out.txt");
