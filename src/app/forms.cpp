@@ -7,6 +7,7 @@
 #include "frame/program.h"
 #include "geometry/form17.h"
 #include "geometry/form18.h"
+#include "geometry/geofile.h"
 #include "oblique/form2.h"
 #include "polygon/form16.h"
 #include "righttri/form1.h"
@@ -26,10 +27,22 @@ void Add(Program& program, const char* name) {
     program.Register(name, [](Program& owner) { return std::make_unique<FormType>(owner); });
 }
 
+/// Saves what an earlier run left on the board, where this one never opened it. Says nothing: the system may be ending
+/// the run.
+void KeepUnseenDrawing(const Program& program) {
+    if (program.Find("Form17") == nullptr) {
+        static_cast<void>(geometry::RecoverLeftOver(program.Files()));
+    }
+}
+
 }  // namespace
 
 void RegisterForms(Program& program) {
-    Add<Form11>(program, "Form11");
+    program.Register("Form11", [](Program& owner) {
+        auto menu = std::make_unique<Form11>(owner);
+        menu->BeforeTheDrawingGoes = [&owner] { KeepUnseenDrawing(owner); };
+        return menu;
+    });
     Add<Form7>(program, "Form7");
     Add<Form10>(program, "Form10");
     Add<righttri::Form1>(program, "Form1");

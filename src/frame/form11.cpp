@@ -140,6 +140,9 @@ void Form11::Command5_Click() {
 }
 
 void Form11::Form_Unload() {
+    if (BeforeTheDrawingGoes) {
+        BeforeTheDrawingGoes();
+    }
     try {
         Owner().Files().Touch("geometry.dat");
         Owner().Files().Kill("geometry.dat");

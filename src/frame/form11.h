@@ -6,6 +6,8 @@
 #include "frame/label.h"
 #include "frame/picturebox.h"
 
+#include <functional>
+
 namespace brindlex {
 
 class Form11 : public Form {
@@ -23,6 +25,9 @@ public:
     CommandButton Command7{Frame1, "Command7", {180, 2400, 1644, 330}, "&Speeds + Feeds"};
     CommandButton Command9{Frame1, "Command9", {180, 2775, 1644, 330}, "&About Brindlex"};
     CommandButton Command5{Frame1, "Command5", {180, 3150, 1644, 330}, "&Exit"};
+
+    /// What is done before the live drawing is deleted with the end of the run. May be empty.
+    std::function<void()> BeforeTheDrawingGoes;
 
     /// Draws the title: a right triangle with the program's name and version along its sides.
     void TitleAnim();
