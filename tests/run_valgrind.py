@@ -1,10 +1,11 @@
 #!/usr/bin/env python3
 """Runs sessions on the real windows under valgrind's memcheck, in a fresh empty working directory each.
 
-    run_valgrind.py --drive build/release/bin/brindlex-drive-desktop [--each 20] [SCRIPT or FOLDER...]
+    run_valgrind.py --drive build/release/bin/brindlex-drive-desktop [--each 20 | --most N] [SCRIPT or FOLDER...]
 
 Without a name it takes so many sessions of every folder of tests/scripts, evenly spread, the first of every folder
-first; 0 takes them all. A session counts as clean with no error and no block definitely lost; valgrind.supp beside
+first; 0 takes them all. With --most it takes N sessions that between them come to every form and dialog and do
+as many different things as they can, a command on a control each, and tells how many of all. A session counts as clean with no error and no block definitely lost; valgrind.supp beside
 this file names what is the system's own.
 """
 
@@ -21,6 +22,7 @@ import run_scripts
 SUPPRESSIONS = run_scripts.HERE / "valgrind.supp"
 ERROR = 99
 SECONDS = 3600
+LOOKS = ("start", "expect", "near", "show", "write", "quit", "wait", "shot")
 
 
 def spread(scripts, most):
@@ -34,6 +36,38 @@ def choice(each):
     folders = sorted(path for path in (run_scripts.HERE / "scripts").iterdir() if path.is_dir())
     chosen = [spread(run_scripts.scripts_of([folder]), each) for folder in folders]
     return [script for turn in itertools.zip_longest(*chosen) for script in turn if script]
+
+
+def deeds_of(script):
+    """What a session does: commands with their controls, tools and menu items with their names."""
+    deeds = set()
+    for line in script.read_text(encoding="utf-8").splitlines():
+        word, _, rest = line.partition(" ")
+        if word in LOOKS or not word.isalpha():
+            continue
+        target = rest if word == "tool" else rest.split(" ")[0]
+        deeds.add((word, "" if target.startswith('"') else target))
+    return deeds
+
+
+def places_of(deeds):
+    """The forms that they are done on; what has no form, as the answer to a file dialog, is a place of its own."""
+    return {target.split(".")[0] or word for word, target in deeds}
+
+
+def most_different(number):
+    """That many sessions: first those that come to all places, then those that add most."""
+    left = {script: deeds_of(script) for script in run_scripts.scripts_of([])
+            if run_scripts.head_of(script).get("runtime", "desktop") == "desktop"}
+    everything = set().union(*left.values())
+    chosen, done = [], set()
+    while len(chosen) < number and done != everything:
+        best = max(left, key=lambda script: (len(places_of(left[script]) - places_of(done)), len(left[script] - done)))
+        chosen.append(best)
+        done |= left.pop(best)
+    print(f"{len(chosen)} sessions: {len(done)} of {len(everything)} different deeds, "
+          f"{len(places_of(done))} of {len(places_of(everything))} forms and dialogs", flush=True)
+    return chosen
 
 
 def is_clean(drive, script):
@@ -68,9 +102,13 @@ def main():
     options = argparse.ArgumentParser()
     options.add_argument("--drive", required=True, type=os.path.abspath)
     options.add_argument("--each", type=int, default=20)
+    options.add_argument("--most", type=int, default=0)
     options.add_argument("scripts", nargs="*")
     options = options.parse_args()
-    scripts = run_scripts.scripts_of(options.scripts) if options.scripts else choice(options.each)
+    if options.scripts:
+        scripts = run_scripts.scripts_of(options.scripts)
+    else:
+        scripts = most_different(options.most) if options.most else choice(options.each)
     results = [is_clean(options.drive, script) for script in scripts]
     harness.finish("valgrind", results.count(True), results.count(False), results.count(None))
 
