@@ -3,11 +3,12 @@
 
     run_fuzz.py FOLDER_OF_FUZZERS [SECONDS_EACH] [--runs N] [--jobs N] [--alike] [--keep] [--only NAME...]
 
-For so many seconds each, or for so many runs. Seeds come from tests/fuzz/corpus/NAME, words from tests/fuzz/NAME.dict;
-what reads alone (X_read_fuzz) takes those of the form (X_fuzz) where it has none of its own. What earlier runs found
-is kept in tests/fuzz/corpus/NAME.tar.gz. What a run finds new stays in FOLDER/../corpus/NAME, and with --keep the
-inputs there that reach something of their own take the place of the kept ones. An input that breaks the program is left
-in FOLDER/../findings. With --alike no input is weighed before another: the quickest readers then run twice as often.
+For so many seconds each, or for so many runs, or what comes first where both are given. Seeds come from
+tests/fuzz/corpus/NAME, words from tests/fuzz/NAME.dict; what reads alone (X_read_fuzz) takes those of the form (X_fuzz)
+where it has none of its own. What earlier runs found is kept in tests/fuzz/corpus/NAME.tar.gz. What a run finds new
+stays in FOLDER/../corpus/NAME, and with --keep the inputs there that reach something of their own take the place of the
+kept ones. An input that breaks the program is left in FOLDER/../findings. With --alike no input is weighed before
+another: the quickest readers then run twice as often.
 """
 
 import argparse
@@ -44,7 +45,8 @@ def command_of(program, options):
     learnt.mkdir(parents=True, exist_ok=True)
     findings.mkdir(exist_ok=True)
     unpack(name, learnt)
-    limit = [f"-runs={options.runs}", f"-max_len={LONGEST}"] if options.runs else [f"-max_total_time={options.seconds}"]
+    limit = [f"-runs={options.runs}", f"-max_len={LONGEST}"] if options.runs else []
+    limit += [f"-max_total_time={options.seconds}"] if options.seconds else []
     limit += ["-entropic=0"] if options.alike else []
     command = [str(program), *limit, "-timeout=20", "-rss_limit_mb=3000", "-print_final_stats=1",
                f"-artifact_prefix={findings}/{name}-", str(learnt)]
@@ -83,7 +85,7 @@ def run_fuzzer(program, options):
     """Whether the fuzzer ran to its end without a finding."""
     name = program.name
     memory = "/dev/shm" if os.access("/dev/shm", os.W_OK) else None
-    most = DAY if options.runs else options.seconds + 120
+    most = options.seconds + 120 if options.seconds else DAY
     with tempfile.TemporaryDirectory(prefix="brindlex-fuzz-", dir=memory) as working:
         environment = dict(os.environ, TMPDIR=working)
         try:
@@ -107,13 +109,15 @@ def run_fuzzer(program, options):
 def main():
     options = argparse.ArgumentParser()
     options.add_argument("folder", type=lambda name: pathlib.Path(name).resolve())
-    options.add_argument("seconds", type=int, nargs="?", default=10)
+    options.add_argument("seconds", type=int, nargs="?", default=0)
     options.add_argument("--runs", type=int, default=0)
     options.add_argument("--jobs", type=int, default=harness.processors())
     options.add_argument("--alike", action="store_true")
     options.add_argument("--keep", action="store_true")
     options.add_argument("--only", nargs="+", default=[])
     options = options.parse_args()
+    if not options.runs and not options.seconds:
+        options.seconds = 10
     names = options.only or sorted(path.stem for path in SOURCES.glob("*_fuzz.cpp"))
     missing = [name for name in names if not (options.folder / name).is_file()]
     for name in missing:
