@@ -4,6 +4,7 @@
 #include "geometry/drawpass.h"
 #include "geometry/hover.h"
 #include "unit/failing.h"
+#include "unit/geometryrecords.h"
 
 #include <gtest/gtest.h>
 
@@ -66,6 +67,44 @@ TEST_F(PassEdges, APickedNumberIsOfSixteenBits) {
         pass.PointStuff();
         EXPECT_EQ(pass.Pick.Number, c.picked);
     }
+}
+
+TEST_F(PassEdges, HitsAreAsManyAsTheirArrayHasRoomFor) {
+    board.EnterCircle({1, 1}, 1, 1, scale);
+    board.EnterLine({{2, 2}, {3, 3}}, 2, scale);
+    board.EnterPoint({4, 4}, 3, scale);
+    pass.View.Selecting = true;
+    pass.View.Box = {1, -1, 19, -19};
+    for (int i = 0; i < 100; ++i) {
+        pass.CircleStuff();
+        pass.LineStuff();
+        pass.PointStuff();
+    }
+    EXPECT_EQ(pass.Marks.Hits.Circles.size(), 48U);
+    EXPECT_EQ(pass.Marks.Hits.Lines.size(), 70U);
+    EXPECT_EQ(pass.Marks.Hits.Points.size(), 42U);
+}
+
+TEST_F(PassEdges, ThePointerAloneTakesAsTheBoxDoes) {
+    board.EnterPoint({5, 5}, 3, scale);
+    pass.View.Selecting = true;
+    pass.View.PointerOver = true;
+    pass.View.Pointer = {5, 5};
+    pass.PointStuff();
+    EXPECT_TRUE(pass.Marks.BoxHit);
+    EXPECT_EQ(pass.Marks.Hits.Points, (std::vector<int>{0}));
+}
+
+TEST_F(PassEdges, WhoIsToldOfANameMayHideIt) {
+    board.EnterPoint({5, 5}, 3, scale);
+    bool told = false;
+    pass.Pick.Shape = Kind::Point;
+    pass.Calls.NamedNumbers = [] { return std::array<double, 6>{3}; };
+    pass.Calls.Named = [&] { told = true; };
+    pass.Calls.Filter = [&] { return told ? PassFilter{PassFilter::Rule::Hide, {3}} : PassFilter{}; };
+    pass.PointStuff();
+    EXPECT_TRUE(told);
+    EXPECT_TRUE(picture.Drawn().Items().empty());
 }
 
 TEST_F(PassEdges, ABoxHoldsItsEdges) {
@@ -204,6 +243,94 @@ TEST_F(FileEdges, ADrawingThatCannotBeWrittenIsNotConverted) {
     EXPECT_TRUE(form->ChooseByPerson(form->MM));
     EXPECT_EQ(Messages(), std::vector<std::string>{NotConverted});
     EXPECT_EQ(folder.Get("geometry.dat"), before);
+}
+
+TEST_F(FileEdges, CancelChangesNothing) {
+    PlaceCircle("1", "1", "1");
+    const std::string before = folder.Get("geometry.dat");
+    run.Files = {std::nullopt, std::nullopt};
+    EXPECT_TRUE(form->ChooseByPerson(form->OpenIt));
+    EXPECT_EQ(folder.Get("geometry.dat"), before);
+    EXPECT_EQ(form->Work.Entities.CircleTop, 4);
+    EXPECT_TRUE(form->ChooseByPerson(form->SaveAs));
+    ASSERT_EQ(run.Dialogs.size(), 2U);
+    EXPECT_EQ(run.Dialogs[0].Flags, 12);  // no read-only box, the working directory stays
+    EXPECT_EQ(run.Dialogs[1].Flags, 14);  // and it is asked before a file is replaced
+    EXPECT_EQ(folder.Names(), (std::vector<std::string>{"aaaa.tmp", "geometry.dat"}));
+}
+
+TEST_F(FileEdges, AFileThatCannotBeReadGivesNoName) {
+    run.Files = {"none.geo", std::nullopt};
+    EXPECT_TRUE(form->ChooseByPerson(form->OpenIt));
+    EXPECT_FALSE(form->SaveAs.Enabled());
+    EXPECT_TRUE(form->ChooseByPerson(form->OpenIt));
+    EXPECT_EQ(run.Dialogs.back().FileName, "");
+}
+
+TEST_F(FileEdges, TheLiveDrawingIsNoNameForAFile) {
+    PlaceCircle("1", "1", "1");
+    const std::string caption = form->Caption();
+    run.Files = {"geometry.dat", std::nullopt};
+    EXPECT_TRUE(form->ChooseByPerson(form->SaveAs));
+    EXPECT_EQ(form->Caption(), caption);
+    EXPECT_TRUE(form->ChooseByPerson(form->SaveAs));
+    EXPECT_EQ(run.Dialogs.back().FileName, "");
+    EXPECT_EQ(Messages(), std::vector<std::string>{"The File Could Not Be Saved:\r\ngeometry.dat"});
+}
+
+TEST_F(FileEdges, ASaveThatIsCancelledGivesANewDrawingNoName) {
+    folder.Put("part.geo", "I\r\n" + PointLine(1, "0", "0") + "\r\n");
+    run.Files = {"part.geo", std::nullopt};
+    EXPECT_TRUE(form->ChooseByPerson(form->OpenIt));
+    EXPECT_NE(form->Caption().find("part.geo"), std::string::npos);
+    EXPECT_TRUE(form->ChooseByPerson(form->NewGeo));
+    PlaceCircle("1", "1", "1");
+    EXPECT_TRUE(form->ChooseByPerson(form->SaveAs));
+    EXPECT_EQ(run.Dialogs.size(), 2U);
+    EXPECT_EQ(form->Caption().find("part.geo"), std::string::npos);
+}
+
+TEST_F(FileEdges, TwoEntitiesCanBeConnected) {
+    const std::string one = PointLine(1, "0", "0") + "\r\n";
+    folder.Put("one.geo", "I\r\n" + one);
+    folder.Put("two.geo", "I\r\n" + one + PointLine(2, "1", "1") + "\r\n");
+    const auto enabled = [&](const std::string& key) {
+        const auto& buttons = form->Toolbar1.Buttons();
+        return std::find_if(buttons.begin(), buttons.end(), [&](const ToolButton& tool) { return tool.Key == key; })
+            ->Enabled;
+    };
+    for (const bool two : {false, true}) {
+        run.Files = {two ? "two.geo" : "one.geo"};
+        EXPECT_TRUE(form->ChooseByPerson(form->OpenIt));
+        EXPECT_EQ(enabled("Connect"), two);
+        EXPECT_TRUE(enabled("Zoom"));
+        EXPECT_TRUE(enabled("UnZoom"));
+    }
+}
+
+TEST_F(FileEdges, AFileInMillimetersIsViewedInThem) {
+    // A circle without a size fits no view, so that the first view stays.
+    folder.Put("dot.geo", "M\r\n" + CircleLine(1, "0", "5", "5") + "\r\n");
+    run.Files = {"dot.geo"};
+    EXPECT_TRUE(form->ChooseByPerson(form->OpenIt));
+    EXPECT_EQ(form->Picture1.ScaleWidth(), 113.665);
+    // The unit stands between two points: the first is entered by the view in inches. Together they reach over 100 and
+    // half a cross of .0884 inches to each side.
+    folder.Put("late.geo", PointLine(1, "0", "0") + "\r\nM\r\n" + PointLine(2, "100", "60") + "\r\n");
+    run.Files = {"late.geo"};
+    EXPECT_TRUE(form->ChooseByPerson(form->OpenIt));
+    EXPECT_NEAR(form->Picture1.ScaleWidth(), 100 + 2 * .0884 * 25.4, 1e-9);
+}
+
+TEST_F(FileEdges, ADrawingThatCannotBeReadHasNoPairs) {
+    Tool("Line");
+    PlaceLine("0", "0", "1", "0");
+    PlaceLine("3", "1", "3", "2");
+    Tool("PotInt");
+    EXPECT_EQ(form->Frame10.Combo2.ListCount(), 1);
+    BlockTheStore();
+    Tool("CircTan");
+    EXPECT_EQ(form->Frame10.Combo2.ListCount(), 0);
 }
 
 TEST_F(FileEdges, ADrawingThatCannotBeReadIsNotSaved) {

@@ -147,6 +147,30 @@ TEST(GeometryReportEdges, FourColumnsBeforeTheCommaAreALinesPartner) {
               LevelBlock("\r\n" + In + "  1234 at: X  0,  Y  0\r\n" + In + "  5 at: X  3,  Y  0"));
 }
 
+TEST(GeometryReportEdges, ACirclesPartnersAreLookedForFromColumnFourteenOn) {
+    const auto report = [](std::size_t comma) {
+        // In the columns behind a comma in the fourteenth, the last that counts is the thirty-fifth.
+        return ReportText({At({{comma, ","}, {35, "56"}, {40, "Circle Tangent"}})}, Unit::Inch, {});
+    };
+    EXPECT_NE(report(14).find("Tangent to   5 at:"), std::string::npos) << report(14);
+    EXPECT_EQ(report(13).find("Tangent to"), std::string::npos) << report(13);
+}
+
+TEST(GeometryReportEdges, NumbersTouchTheComma) {
+    EXPECT_EQ(ReportText({LevelLine(" 1", "34,58")}, Unit::Inch, {}),
+              LevelBlock("\r\n" + In + "  34 at: X  0,  Y  0\r\n" + In + "  58 at: X  3,  Y  0"));
+    const std::string first = ReportText({At({{1, ",5"}, {127, "Line Tangent"}})}, Unit::Inch, {});
+    EXPECT_NE(first.find(In + "  5 at: X  0,  Y  0\r\n"), std::string::npos) << first;
+    const auto crossing = [](const std::string& item) {
+        return ReportText({LineLine(12, "0", "0", "3", "0")}, Unit::Inch, {item});
+    };
+    EXPECT_NE(crossing("12,5" + std::string(15, ' ') + "/1\\2").find("Intersects Line  5 at X  1,  Y  2"),
+              std::string::npos);
+    // Fifteen columns less than stand before the slash count, from the comma on: here those up to the twelfth.
+    const std::string far = crossing(At({{1, "12 ,"}, {5, "123456789"}, {23, "/1\\2"}}));
+    EXPECT_NE(far.find("Intersects Line  12345678 at X"), std::string::npos) << far;
+}
+
 TEST(GeometryReportEdges, PartnersThatAreNotThereHaveNoKind) {
     EXPECT_EQ(ReportText({LevelLine(" 1", " 7  , 8 ")}, Unit::Inch, {}),
               LevelBlock("\r\n" + In + "  7 at: X  0,  Y  0\r\n" + In + "  8 at: X  3,  Y  0"));
@@ -176,6 +200,24 @@ TEST(GeometryStoreEdges, ALoneReturnEndsALine) {
     folder.Put("geometry.dat", "left\r");
     EXPECT_TRUE(Store(folder.Files()).Append("new"));
     EXPECT_EQ(folder.Get("geometry.dat"), "left\rnew\r\n");
+}
+
+TEST(GeometryStoreEdges, OneByteIsALineWithoutItsEnd) {
+    const TestFolder folder;
+    folder.Put("geometry.dat", "x");
+    EXPECT_TRUE(Store(folder.Files()).Append("new"));
+    EXPECT_EQ(folder.Get("geometry.dat"), "x\r\nnew\r\n");
+}
+
+TEST(GeometryStoreEdges, WhatALinkLeadsToIsNotEmptied) {
+    for (const char* const name : {"geometry.dat", "aaaa.tmp"}) {
+        const TestFolder folder;
+        folder.Put("mine.txt", "mine");
+        fs::create_symlink("mine.txt", folder.Path() / name);
+        EXPECT_TRUE(Store(folder.Files()).Begin());
+        EXPECT_EQ(folder.Get("mine.txt"), "mine") << name;
+        EXPECT_EQ(folder.Get(name), "") << name;
+    }
 }
 
 TEST(GeometryStoreEdges, AnAppendGoesOnWhereTheEndCannotBeLookedAt) {

@@ -35,6 +35,21 @@ TEST(GeometryExtend, FiveColumnsAreTheNumber) {
     EXPECT_EQ(Extend(wide, PairText(" 12345", " 2 ", " 3", " 0")), std::nullopt);
 }
 
+TEST(GeometryExtend, FifteenDecimalsTellAnEndFromThePlaceBeforeIt) {
+    // The upright line says how far along the level one of length 1 they meet. The item names another place, so that
+    // it shows whether the level line was moved there.
+    const struct {
+        const char* along;
+        bool end;
+    } cases[] = {{"1", true}, {".9999999999999996", true}, {".999999999999996", false}};
+    for (const auto& c : cases) {
+        const auto found =
+            Extend({Level, LineLine(2, c.along, "-.5", c.along, ".5")}, PairText(" 1 ", " 2 ", " 7", " 0"));
+        ASSERT_TRUE(found);
+        EXPECT_EQ(found->front(), LineLine(1, " 0", " 0", c.end ? " 7" : " 1", " 0")) << c.along;
+    }
+}
+
 TEST(GeometryExtend, ALineThatIsMetInAnEndStays) {
     const Lines expected{LineLine(1, " 0", " 0", " 4", " 0"), LineLine(2, " 3", " 5", " 3", " 0")};
     const std::string across = LineLine(1, "0", "0", "4", "0");

@@ -6,6 +6,7 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
 #include <cmath>
 #include <cstddef>
 #include <cstdint>
@@ -143,6 +144,44 @@ TEST(GeometryRecord, ReadsPartners) {
         {LineLine(1, "1", "2", "3", "4"), 0, 0},
         {At({{1, ",  Tangent"}}), 0, 0},
         {"", 0, 0},
+    };
+    for (const PartnersCase& c : cases) {
+        EXPECT_EQ(PartnersOf(c.Line).First, c.First) << c.Line;
+        EXPECT_EQ(PartnersOf(c.Line).Second, c.Second) << c.Line;
+    }
+}
+
+// Slices to the column.
+
+TEST(GeometryRecord, ALineOfNoKindHasItsNumberAlone) {
+    const Record record = ReadRecord(At({{1, " 5"}, {15, "7"}}));
+    EXPECT_EQ(record.Number, 5);
+    EXPECT_EQ(record.Values, (std::array<double, 4>{}));
+    EXPECT_EQ(ReadFields("a note of mine, and more").Number, "a note of mine");
+    EXPECT_EQ(NumberOf("7"), 7);
+    EXPECT_EQ(NumberOf("78", 1), 7);
+}
+
+TEST(GeometryRecord, FieldsReachUpToTheNextOne) {
+    const std::string x(28, '1');
+    const Fields fields = ReadFields(At({{1, "12345678901234"}, {15, x}, {43, "2"}, {71, "Point"}}));
+    EXPECT_EQ(fields.Number, "12345678901234");
+    EXPECT_EQ(fields.Values[0], x);
+    EXPECT_EQ(fields.Values[1], "2");
+}
+
+TEST(GeometryRecord, PartnersAreOfSixColumns) {
+    const auto line = [](const std::string& behind) {
+        return At({{1, " 9"}, {99, " 4"}, {127, "Line Tangent"}, {141, behind}});
+    };
+    const auto circle = [](const std::string& words, const std::string& behind) {
+        return At({{1, " 9"}, {71, " 4"}, {99, words}, {127, behind}});
+    };
+    const PartnersCase cases[] = {
+        {circle("Circle Tangent", "12,34"), 12, 34},     {circle("Circle Tangent", "9  1234,"), 1234, 0},
+        {circle("Circle Tangent", ",  12349"), 0, 1234}, {circle("Circle", " 4  ,  5 "), 0, 0},
+        {At({{1, ",5"}, {127, "Line Tangent"}}), 0, 5},  {line("  12345"), 1234, 12345},
+        {line("              9  1234"), 0, 1234},
     };
     for (const PartnersCase& c : cases) {
         EXPECT_EQ(PartnersOf(c.Line).First, c.First) << c.Line;
