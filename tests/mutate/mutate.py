@@ -90,7 +90,7 @@ def tell_survivors(mutants, results, explained):
 
 def main():
     parser = argparse.ArgumentParser(description="Mutation testing.")
-    parser.add_argument("files", nargs="*", default=None)
+    parser.add_argument("files", nargs="*")
     parser.add_argument("--again", action="store_true")
     parser.add_argument("--line", type=int)
     parser.add_argument("--jobs", type=int, default=2)
@@ -106,7 +106,8 @@ def main():
     import hunt  # pylint: disable=import-outside-toplevel
     scratch = pathlib.Path(options.scratch)
     scratch.mkdir(parents=True, exist_ok=True)
-    stock = breed.Breed(ROOT, scratch, FILES if not options.files else sorted({*FILES, *options.files}))
+    # In one order always, so that a choice of files builds nothing anew.
+    stock = breed.Breed(ROOT, scratch, [*FILES, *(name for name in options.files if name not in FILES)])
     results, explained = Results(scratch / "results.json"), explanations()
     if not options.report:
         stock.build(options.jobs)
