@@ -83,6 +83,21 @@ TEST(GeometryTangentCircles, FarUpTheFirstCentresAreLevelWithTheCrossing) {
     }
 }
 
+TEST(GeometryTangentCircles, AnUprightLineRunsDownFromItsUpperEnd) {
+    // x = 0 and y = x, radius 1. Psi is 0 and 45, phi 90 and 45: they lean alike, and the bisectors are 22.5 and 67.5.
+    // Beside the upright line all centres lie 1 to the left or right; above and below, at 1 / tan 22.5 and tan 22.5.
+    const double far = 1 + std::sqrt(2.0);
+    const double near = std::sqrt(2.0) - 1;
+    for (const Segment& upright : {Segment{{0, -5}, {0, 5}}, Segment{{0, 5}, {0, -5}}}) {
+        const Circles found =
+            FindTangentCircles(RecordsOf(upright, {{-5, -5}, {5, 5}}), ItemAt({0, 0}), 1, Tangents::Exact);
+        ExpectAt(found[0].Centre, {-1, -far}, "1");
+        ExpectAt(found[1].Centre, {1, far}, "2");
+        ExpectAt(found[2].Centre, {-1, near}, "3");
+        ExpectAt(found[3].Centre, {1, -near}, "4");
+    }
+}
+
 TEST(GeometryTangentCircles, AxesByHand) {
     // On the level line psi fails and phi is 0, on the upright one psi is 0 and phi fails: P is 0, Q 180, Dk and Tk
     // are skipped and 0. Two centres stay in the crossing, the others go straight up and down, without points.
