@@ -153,7 +153,8 @@ TEST(GeometryReportEdges, ACirclesPartnersAreLookedForFromColumnFourteenOn) {
         return ReportText({At({{comma, ","}, {35, "56"}, {40, "Circle Tangent"}})}, Unit::Inch, {});
     };
     EXPECT_NE(report(14).find("Tangent to   5 at:"), std::string::npos) << report(14);
-    EXPECT_EQ(report(13).find("Tangent to"), std::string::npos) << report(13);
+    const std::string before = ReportText({At({{13, ",5"}, {40, "Circle Tangent"}})}, Unit::Inch, {});
+    EXPECT_EQ(before.find("Tangent to"), std::string::npos) << before;
 }
 
 TEST(GeometryReportEdges, NumbersTouchTheComma) {
@@ -218,6 +219,12 @@ TEST(GeometryStoreEdges, WhatALinkLeadsToIsNotEmptied) {
         EXPECT_EQ(folder.Get("mine.txt"), "mine") << name;
         EXPECT_EQ(folder.Get(name), "") << name;
     }
+    const TestFolder folder;
+    folder.Put("mine.txt", "mine");
+    fs::create_symlink("mine.txt", folder.Path() / "aaaa.tmp");
+    EXPECT_TRUE(Store(folder.Files()).WriteLineCopy({LineLine(1, "0", "0", "1", "1")}));
+    EXPECT_EQ(folder.Get("mine.txt"), "mine");
+    EXPECT_EQ(folder.Get("aaaa.tmp"), LineLine(1, "0", "0", "1", "1") + "\r\n");
 }
 
 TEST(GeometryStoreEdges, AnAppendGoesOnWhereTheEndCannotBeLookedAt) {
@@ -324,6 +331,25 @@ void ExpectMended(std::array<TangentCircle, 4> circles, const std::array<Positio
         ExpectAt(circles[i].Centre, centres[i], i);
         ExpectAt(circles[i].OnA, {centres[i].X, 0}, i);
         ExpectAt(circles[i].OnB, {0, centres[i].Y}, i);
+    }
+}
+
+TEST(GeometryTangentMendEdges, WhatIsTrueToATenBillionthOfTheRadiusStays) {
+    const LinePair axes{{{-5, 0}, {5, 0}}, {{0, -5}, {0, 5}}};
+    for (const double r : {1.0, 100.0}) {
+        for (const double part : {5e-11, 3e-10}) {
+            const double x = r + part * r;
+            std::array<TangentCircle, 4> circles{{{{x, r}, {r, 0}, {0, r}},
+                                                  {{x, -r}, {r, 0}, {0, -r}},
+                                                  {{-x, r}, {-r, 0}, {0, r}},
+                                                  {{-x, -r}, {-r, 0}, {0, -r}}}};
+            MendCircles(circles, axes, {0, 0}, r);
+            for (std::size_t i = 0; i < circles.size(); ++i) {
+                const double expected = part < 1e-10 ? x : r;
+                EXPECT_EQ(circles[i].Centre.X, i < 2 ? expected : -expected) << r << ' ' << part;
+                EXPECT_EQ(circles[i].OnA.X, i < 2 ? r : -r) << r << ' ' << part;
+            }
+        }
     }
 }
 

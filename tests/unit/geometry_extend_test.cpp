@@ -40,13 +40,21 @@ TEST(GeometryExtend, FifteenDecimalsTellAnEndFromThePlaceBeforeIt) {
     // it shows whether the level line was moved there.
     const struct {
         const char* along;
-        bool end;
-    } cases[] = {{"1", true}, {".9999999999999996", true}, {".999999999999996", false}};
+        const char* from;
+        const char* to;
+    } cases[] = {
+        {"1", " 0", " 7"},
+        {".9999999999999996", " 0", " 7"},
+        {".999999999999996", " 0", " 1"},
+        {"0", " 1", " 7"},
+        {"4E-16", " 1", " 7"},
+        {"6E-16", " 0", " 1"},
+    };
     for (const auto& c : cases) {
         const auto found =
             Extend({Level, LineLine(2, c.along, "-.5", c.along, ".5")}, PairText(" 1 ", " 2 ", " 7", " 0"));
         ASSERT_TRUE(found);
-        EXPECT_EQ(found->front(), LineLine(1, " 0", " 0", c.end ? " 7" : " 1", " 0")) << c.along;
+        EXPECT_EQ(found->front(), LineLine(1, c.from, " 0", c.to, " 0")) << c.along;
     }
 }
 
