@@ -213,6 +213,32 @@ TEST_F(FileEdges, ThePictureFollowsScrollBarsThatStay) {
     EXPECT_EQ(form->HScroll1.Value(), 32767);
     EXPECT_EQ(form->Picture1.ScaleLeft(), 32767);
     EXPECT_EQ(form->Picture1.ScaleTop(), 32767);
+    // It was painted there: the level line of the cross begins at its left edge.
+    const auto& items = form->Picture1.Drawn().Items();
+    EXPECT_TRUE(std::any_of(items.begin(), items.end(), [](const DrawItem& item) { return item.X1 == 32767; }));
+}
+
+TEST_F(FileEdges, AnEmptyDrawingFollowsNoScrollBar) {
+    form->HScroll1.Value(7);
+    form->VScroll1.Value(-3);
+    EXPECT_EQ(form->Picture1.ScaleLeft(), 7);
+    EXPECT_EQ(form->Picture1.ScaleTop(), -3);
+    EXPECT_TRUE(form->ChooseByPerson(form->MM));
+    EXPECT_EQ(form->Picture1.ScaleLeft(), 0);
+    EXPECT_EQ(form->Picture1.ScaleTop(), 0);
+    EXPECT_EQ(form->Picture1.ScaleWidth(), 113.665);
+}
+
+TEST_F(FileEdges, ADrawingInItsNewUnitIsFitted) {
+    PlaceCircle("1", "1", "2");
+    EXPECT_TRUE(form->ChooseByPerson(form->MM));
+    EXPECT_NEAR(form->Picture1.ScaleHeight(), -50.8, 1e-9);
+    // What fits no view is shown in the first one.
+    folder.Put("dot.geo", "I\r\n" + CircleLine(1, "0", "5", "5") + "\r\n");
+    run.Files = {"dot.geo"};
+    EXPECT_TRUE(form->ChooseByPerson(form->OpenIt));
+    EXPECT_TRUE(form->ChooseByPerson(form->MM));
+    EXPECT_EQ(form->Picture1.ScaleWidth(), 113.665);
 }
 
 TEST_F(FileEdges, ThePictureFollowsOneScrollBarThatStays) {

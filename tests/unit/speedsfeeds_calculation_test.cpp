@@ -56,6 +56,18 @@ TEST(CuttingRanges, AZeroAtEitherEnd) {
     EXPECT_EQ(ConvertRanges({"1-100", ".001-0"}, Unit::Metric), std::nullopt);
 }
 
+TEST(CuttingCalculation, AMillInMetricDividesBySixtyThousand) {
+    Entries entries;
+    entries.SurfSpeed = "60";
+    entries.Feed = "1";
+    entries.Diameter = "1";
+    entries.Teeth = "1";
+    entries.CutDepth = "1";
+    entries.CutWidth = "60000";
+    // With a pi of 1: 60000 turns, 60000 a minute, and 60000 x 60000 / 60000.
+    EXPECT_EQ(Calculate(entries, Unit::Metric, Machine::Mill, 1, false).RemovalRate, "60000.0");
+}
+
 TEST(CuttingCalculation, AHalfInchEndMill) {
     Entries entries = Inch();
     Results results = Work(entries);
