@@ -183,6 +183,25 @@ TEST(Rewrite, LeavesAForeignScratchFileAlone) {
     EXPECT_EQ(folder.Names(), (Names{taken, "f.txt"}));
 }
 
+TEST(Rewrite, AThousandForeignScratchFilesLeaveNoName) {
+    const TestFolder folder;
+    folder.Put("f.txt", "old");
+    const auto name = [](int i) {
+        return ".brindlex-" + std::to_string(::getpid()) + "-" + std::to_string(i) + ".tmp";
+    };
+    folder.Put(name(0), "foreign");
+    for (int i = 1; i < 1000; ++i) {
+        fs::create_hard_link(folder.Path() / name(0), folder.Path() / name(i));
+    }
+    EXPECT_EQ(FaultOf([&] { folder.Files().Rewrite("f.txt", "new"); }), FaultNumber::FileIo);
+    EXPECT_EQ(folder.Get("f.txt"), "old");
+    EXPECT_EQ(folder.Get(name(0)), "foreign");
+    fs::remove(folder.Path() / name(999));
+    folder.Files().Rewrite("f.txt", "new");
+    EXPECT_EQ(folder.Get("f.txt"), "new");
+    EXPECT_FALSE(folder.Files().Exists(name(999)));
+}
+
 TEST(Rewrite, RespectsWriteProtection) {
     if (::geteuid() == 0) {
         GTEST_SKIP() << "nothing is protected from this user";
