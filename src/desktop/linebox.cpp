@@ -9,6 +9,7 @@
 #include <QClipboard>
 #include <QComboBox>
 #include <QDropEvent>
+#include <QFocusEvent>
 #include <QInputMethodEvent>
 #include <QMenu>
 #include <QMimeData>
@@ -47,6 +48,7 @@ void LineBox::MirrorText() {
 }
 
 void LineBox::MirrorSelection() {
+    dropped_ = false;
     if (box_.SelLength() > 0) {
         setSelection(box_.SelStart(), box_.SelLength());
     } else {
@@ -56,18 +58,32 @@ void LineBox::MirrorSelection() {
 }
 
 int LineBox::SeenStart() const {
+    if (dropped_) {
+        return box_.SelStart();
+    }
     return hasSelectedText() ? selectionStart() : cursorPosition();
 }
 
 int LineBox::SeenLength() const {
+    if (dropped_) {
+        return box_.SelLength();
+    }
     return hasSelectedText() ? selectionLength() : 0;
 }
 
 void LineBox::TakeSelection() {
     // While an edit of the widget's own is on its way, the two texts differ; the surface will say.
-    if (!window_.Deaf() && text() == FromText(box_.Text())) {
-        box_.SelectByPerson(SeenStart(), SeenLength());
+    if (window_.Deaf() || text() != FromText(box_.Text())) {
+        return;
     }
+    if (!hasSelectedText() && box_.Parent().ActiveControl() != &box_) {
+        // The widget may drop the selection of a box without the focus at any later time too.
+        dropped_ = dropped_ || box_.SelLength() > 0;
+        if (dropped_) {
+            return;
+        }
+    }
+    box_.SelectByPerson(SeenStart(), SeenLength());
 }
 
 bool LineBox::event(QEvent* event) {
@@ -109,6 +125,23 @@ void LineBox::inputMethodEvent(QInputMethodEvent* event) {
     TypeText(window_, box_, event->commitString());
     QInputMethodEvent uncommitted(event->preeditString(), event->attributes());
     QLineEdit::inputMethodEvent(&uncommitted);
+}
+
+void LineBox::focusInEvent(QFocusEvent* event) {
+    const Mirror::Write write(window_.Flag());
+    const bool back = dropped_;
+    QLineEdit::focusInEvent(event);
+    if (back) {
+        MirrorSelection();
+    }
+}
+
+/// The widget drops the selection of a box that is left, so that no two boxes look selected. The surface keeps it.
+void LineBox::focusOutEvent(QFocusEvent* event) {
+    const Mirror::Write write(window_.Flag());
+    const bool selected = hasSelectedText();
+    QLineEdit::focusOutEvent(event);
+    dropped_ = dropped_ || (selected && !hasSelectedText());
 }
 
 void LineBox::KeepSelectionOverPress() {

@@ -28,6 +28,8 @@ protected:
     void contextMenuEvent(QContextMenuEvent* event) override;
     void dropEvent(QDropEvent* event) override;
     void inputMethodEvent(QInputMethodEvent* event) override;
+    void focusInEvent(QFocusEvent* event) override;
+    void focusOutEvent(QFocusEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
@@ -38,6 +40,7 @@ private:
     FormWindow& window_;
     EditControl& box_;
     bool pressHeld_ = false;
+    bool dropped_ = false;  ///< the widget dropped the selection when the focus went; the surface keeps it
     QPoint pressPlace_;
 };
 
