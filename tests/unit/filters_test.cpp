@@ -388,6 +388,25 @@ TEST_F(Filters, UnitItemsComeOnAfterEveryKeyThatReachesThem) {
     }
 }
 
+TEST_F(Filters, AKeyThatIsSwallowedBecomesZero) {
+    const struct {
+        const char* form;
+        const char* box;
+        const char* text;
+        int key;
+    } cases[] = {
+        {"Form16", "Combo1", "1", 'x'}, {"Form12", "Text1", "1.5", '.'}, {"Form1", "Text1", "1", 'x'},
+        {"Form8", "Text1", "5", '-'},   {"Form1", "Combo1", "1", 'x'},   {"Form5", "Combo1", "1", 'x'},
+    };
+    for (const auto& c : cases) {
+        EditControl& box = Form(c.form).Box(c.box);
+        SetText(box, c.text);
+        int key = c.key;
+        box.Fire(box.KeyPress, "KeyPress", key);
+        EXPECT_EQ(key, 0) << c.form << '.' << c.box;
+    }
+}
+
 TEST_F(Filters, AFormWithoutItsMembersIsAnError) {
     EXPECT_EQ(FaultOf([&] { const MemberForm form(program.Owner, "Form8", TextBoxes(1, 4)); }),
               FaultNumber::BadArgument);

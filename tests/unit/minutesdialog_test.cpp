@@ -114,6 +114,20 @@ protected:
     TestProgram program;
 };
 
+TEST_F(MinutesDialog, StandsInTheMiddleWithTheCursorBehindTheDegrees) {
+    bool shown = false;
+    program.Owner.Shared().ScreenH = 768;
+    Open(Pairs[0], "45.5", [&](MinutesSecondsDialog& dialog) {
+        shown = true;
+        EXPECT_EQ(dialog.Text1.SelStart(), 2);
+        const Size screen = program.Owner.Screen();
+        EXPECT_EQ(2 * dialog.Left() + dialog.Width(), screen.Width);
+        EXPECT_EQ(2 * dialog.Top() + dialog.Height(), screen.Height);
+        dialog.CloseByPerson();
+    });
+    EXPECT_TRUE(shown);
+}
+
 TEST_F(MinutesDialog, WithoutACheckTheFirstAngleIsMeant) {
     Owner("Form2").Text2.Text("7");
     std::string label;

@@ -75,6 +75,20 @@ protected:
     TestProgram program;
 };
 
+TEST_F(Printing, AsManyCopiesAsAreTold) {
+    Answer(PrinterChoice{9999, 0, 0});
+    int pages = 0;
+    ForEachCopy(form().CommonDialog1, [&] { ++pages; });
+    EXPECT_EQ(pages, 9999);
+    EXPECT_TRUE(program.Run.Boxes.empty());
+}
+
+TEST_F(Printing, ThePictureOfOneTwipIsOneToo) {
+    PrintFitPage(printer(), PictureOf(1, 1));
+    printer().EndDoc();
+    EXPECT_EQ(std::get<PrintedPicture>(OnlyPage(0).Items.at(0)).Where, (Place{0, 0, 10000, 10000}));
+}
+
 TEST_F(Printing, FitsThePictureToThePage) {
     struct Case {
         double width;
