@@ -220,6 +220,13 @@ TEST_F(Printing, AHighPictureStaysOnThePage) {
     EXPECT_EQ(std::get<PrintedPicture>(OnlyPage(0).Items[5]).Where, (Place{0, 1840, 6000, 3000}));
 }
 
+TEST_F(Printing, BelowTheHeadingOfALowPageThereIsNoRoom) {
+    program.Runtime.Portrait = {10000, 1000};
+    Answer(PrinterChoice{});
+    EXPECT_TRUE(form().ChooseByPerson(form().PrntPic));
+    EXPECT_EQ(std::get<PrintedPicture>(OnlyPage(0).Items[5]).Where, (Place{0, 1840, 0, 0}));
+}
+
 TEST_F(Printing, EachPrintStartsInPortrait) {
     Answer(PrinterChoice{});
     EXPECT_TRUE(form().ChooseByPerson(form().PrntWin));

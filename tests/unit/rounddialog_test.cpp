@@ -65,7 +65,18 @@ TEST_F(RoundDialog, ShowsTheDigitsOfItsOwner) {
                                                                   "11", "12", "13", "14", "15"}));
         EXPECT_TRUE(dialog.Command1.Default());
         EXPECT_TRUE(dialog.Command2.Cancel());
+        EXPECT_EQ(dialog.Label1.Align(), Label::Alignment::Right);
+        EXPECT_TRUE(dialog.Combo1.ListOnly());
     }
+}
+
+TEST_F(RoundDialog, StandsInTheMiddleOfTheScreen) {
+    shared.ScreenH = 768;
+    RoundNumbersDialog& dialog = Dialog("Form5");
+    dialog.Load();
+    const Size screen = program.Owner.Screen();
+    EXPECT_EQ(2 * dialog.Left() + dialog.Width(), screen.Width);
+    EXPECT_EQ(2 * dialog.Top() + dialog.Height(), screen.Height);
 }
 
 TEST_F(RoundDialog, OkTakesTheChosenDigits) {
@@ -156,6 +167,8 @@ TEST_F(RoundDialog, NothingIsClipped) {
 
 TEST_F(RoundDialog, OtherNamesAreRefused) {
     EXPECT_EQ(FaultOf([&] { (void)MakeRoundNumbersDialog(program.Owner, "Form7"); }), FaultNumber::BadArgument);
+    EXPECT_EQ(WordsOf([&] { (void)MakeRoundNumbersDialog(program.Owner, "Form7"); }),
+              "There is no Round Numbers dialog Form7");
 }
 
 }  // namespace
