@@ -43,6 +43,22 @@ TEST(CodePage, BecomesUtf8) {
     EXPECT_EQ(Utf8FromText("\x81\x8D\x8F\x90\x9D"), "\xC2\x81\xC2\x8D\xC2\x8F\xC2\x90\xC2\x9D");
 }
 
+TEST(CodePage, TheThirtyTwoThatLatin1DoesNotHave) {
+    const char* const characters[] = {
+        "\xE2\x82\xAC", "\xC2\x81",     "\xE2\x80\x9A", "\xC6\x92",     "\xE2\x80\x9E", "\xE2\x80\xA6", "\xE2\x80\xA0",
+        "\xE2\x80\xA1", "\xCB\x86",     "\xE2\x80\xB0", "\xC5\xA0",     "\xE2\x80\xB9", "\xC5\x92",     "\xC2\x8D",
+        "\xC5\xBD",     "\xC2\x8F",     "\xC2\x90",     "\xE2\x80\x98", "\xE2\x80\x99", "\xE2\x80\x9C", "\xE2\x80\x9D",
+        "\xE2\x80\xA2", "\xE2\x80\x93", "\xE2\x80\x94", "\xCB\x9C",     "\xE2\x84\xA2", "\xC5\xA1",     "\xE2\x80\xBA",
+        "\xC5\x93",     "\xC2\x9D",     "\xC5\xBE",     "\xC5\xB8"};
+    int code = 0x80;
+    for (const char* const utf8 : characters) {
+        const std::string text(1, static_cast<char>(static_cast<unsigned char>(code)));
+        EXPECT_EQ(Utf8FromText(text), utf8) << code;
+        EXPECT_EQ(TextFromUtf8(utf8), text) << code;
+        ++code;
+    }
+}
+
 TEST(CodePage, EveryByteComesBack) {
     const std::string text = EveryByte();
     const std::string utf8 = Utf8FromText(text);
