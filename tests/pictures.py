@@ -5,7 +5,8 @@ person to look at.
     pictures.py --drive build/release/bin/brindlex-drive OUTDIR [--theme dark] [--scale 1.5] [--only NAME]
 
 A picture is OUTDIR/THEME-SCALE/NAME.png; OUTDIR/THEME-SCALE.png shows them all on one sheet where there is ImageMagick.
-The dark theme is the way by which a KDE desktop hands its colours to the program, so no plugin is needed. Wants Xvfb.
+The dark theme is the way by which a KDE desktop hands its colours to the program, so no plugin is needed. Wants Xvfb;
+opened menus, lists and dialogs are taken of the program itself, by keys, and want xdotool and ImageMagick besides.
 """
 
 import argparse
@@ -16,6 +17,7 @@ import shutil
 import subprocess
 import sys
 import tempfile
+import time
 
 import harness
 
@@ -88,6 +90,25 @@ type Form19.Text9 ".8"
 type Form19.Text14 "10"
 type Form19.Text15 "2"
 key Form19.Text15 13
+"""
+
+# The longest names and ranges that a shop would have.
+STOCK = r"""
+write "Mill.dat" "I_3/4 In. 4-Flute Roughing End Mill!Solid Carbide, TiAlN@Stainless Steel 17-4 PH, H900#250-400$.0025-.0045%1.45^\r\n"
+start
+press Form11.Command7
+choose Form19.Combo2 "3/4 In. 4-Flute Roughing End Mill"
+choose Form19.Combo3 "Solid Carbide, TiAlN"
+choose Form19.Combo4 "Stainless Steel 17-4 PH, H900"
+"""
+
+FAR = r"""
+write "a.geo" "I\r\n 1             1234.56789012345           -2345.67890123456            987.654321098765           Circle\r\n 2             3456.78901234567            2345.67890123456            987.654321098765           Circle\r\n 3            -3456.78901234567           -1234.56789012345            3456.78901234567            2345.67890123456           Line\r\n 4            -3456.78901234567            2345.67890123456            123.456789012345            1234.56789012345           Line\r\n"
+start
+press Form11.Command8
+dialog "a.geo"
+menu Form17.OpenIt
+tool Form17.Toolbar1 "Fit"
 """
 
 # Each a run of its own; "shot" takes the pictures. Message and input boxes are taken as they come, as box-N.
@@ -332,6 +353,96 @@ type Form17.Text17 "2"
 press Form17.Command1
 shot Form17 "board-misses.png"
 """,
+    "right-long": """
+start
+press Form11.Command1
+type Form1.Text1 "123456789012345"
+type Form1.Text2 "98765432.1098765"
+press Form1.Command1
+shot Form1 "right-long.png"
+menu Form1.DIDMS
+shot Form1 "right-long-minutes.png"
+menu Form1.TextOn
+shot Form1 "right-long-text-off.png"
+""",
+    "oblique-long": """
+start
+press Form11.Command2
+type Form2.Text1 "40.123456789"
+type Form2.Text2 "60.987654321"
+type Form2.Text3 "12345678901234"
+press Form2.Command1
+shot Form2 "oblique-long.png"
+menu Form2.DIDMSO
+menu Form2.TextOn
+shot Form2 "oblique-long-text-off.png"
+""",
+    "bolt-long": """
+start
+press Form11.Command3
+type Form8.Text1 "-12345678.123456"
+type Form8.Text2 "-98765432.654321"
+type Form8.Text3 "123456789.12345"
+type Form8.Text4 "100"
+type Form8.Text5 "359.999999999"
+press Form8.Command1
+shot Form8 "bolt-long.png"
+""",
+    "sine-long": """
+start
+press Form11.Command4
+press Form12.Option2
+choose Form12.Combo1 " 10\\" "
+type Form12.Text1 "44.9999999999999"
+type Form12.Text2 "59.1234567890123"
+press Form12.Command1
+shot Form12 "sine-long.png"
+""",
+    "polygon-long": """
+start
+press Form11.Command6
+type Form16.Text1 "123456789012345"
+press Form16.Command1
+shot Form16 "polygon-long.png"
+""",
+    "board-long": FAR + """
+shot Form17 "board-long.png"
+mouse Form17.Picture1 move 1.2375 -0.6958
+shot Form17 "board-long-hover.png"
+tool Form17.Toolbar1 "CircTan"
+shot Form17 "board-long-tangent.png"
+tool Form17.Toolbar1 "PotInt"
+shot Form17 "board-long-extend.png"
+menu Form17.GeoRpt
+shot Form18 "report-long.png"
+""",
+    "board-recovered": r"""
+write "geometry.dat" " 1             1                          -1                          0                           Circle\r\n"
+start
+press Form11.Command8
+shot Form17 "board-recovered.png"
+""",
+    "speeds-stock": STOCK + """
+shot Form19 "speeds-stock.png"
+type Form19.Text5 ".75"
+type Form19.Text6 "4"
+type Form19.Text8 "1.125"
+type Form19.Text7 "1.5"
+type Form19.Text9 "1.45"
+type Form19.Text14 "12345.678"
+type Form19.Text15 "100"
+press Form19.Command1
+shot Form19 "speeds-stock-results.png"
+menu Form19.ConvDat
+shot Form19 "speeds-stock-metric.png"
+menu Form19.InchTo
+menu Form19.DataOp
+choose Form19.Combo2 "3/4 In. 4-Flute Roughing End Mill"
+choose Form19.Combo3 "Solid Carbide, TiAlN"
+choose Form19.Combo4 "Stainless Steel 17-4 PH, H900"
+shot Form19 "speeds-stock-enter.png"
+menu Form19.DelDat
+""",
     "speeds": SPEEDS + """
 shot Form19 "speeds.png"
 menu Form19.ConvDat
@@ -351,6 +462,36 @@ shot Form19 "speeds-maximized.png"
 """,
 }
 
+# Of the program itself, which stands in the menu: "shot" takes what is on the screen, anything else is keys to press.
+# Three Escapes lead out of any menu; "front" gives the keyboard back to the form after a dialog, as a window manager does.
+OUT_OF_MENU = "Escape Escape Escape"
+
+
+def menus(name, letters):
+    return [step for letter in letters for step in (f"alt+{letter}", f"shot {name}-menu-{letter}", OUT_OF_MENU)]
+
+
+def typed(text):
+    return " ".join({".": "period", "-": "minus"}.get(letter, letter) for letter in text)
+
+
+LIVE = {
+    "live-right": ["alt+r", *menus("right", "fenuh"), "alt+f Down Down Right", "shot right-menu-print", OUT_OF_MENU,
+                   "F4", "shot right-list", "Escape", "alt+f Return", "shot dialog-open", "Escape", "front",
+                   f"Tab {typed('3')} Tab {typed('4')} Return", "alt+f Down Return", "shot dialog-save", "Escape", "front",
+                   "alt+f Down Down Right Return", "shot dialog-print", "Escape"],
+    "live-oblique": ["alt+o", *menus("oblique", "feu"), "F4", "shot oblique-list", "Escape"],
+    "live-bolt": ["alt+b", *menus("bolt", "feu"), "alt+f Up Up Right", "shot bolt-menu-print", OUT_OF_MENU],
+    "live-sine": ["alt+i", *menus("sine", "feu"), "Tab F4", "shot sine-list", "Escape"],
+    "live-polygon": ["alt+g", *menus("polygon", "feu"), "F4", "shot polygon-list", "Escape"],
+    "live-board": ["alt+y", *menus("board", "feu"), "alt+u Right", "shot board-menu-geometry", OUT_OF_MENU,
+                   "F6", "shot board-focus-tool", "Right", "shot board-focus-next-tool", "F6", "alt",
+                   "shot board-focus-menu", "Escape"],
+    "live-speeds": ["alt+s", *menus("speeds", "fenuoh"), "F4", "shot speeds-list", "Escape"],
+}
+PAUSE = 0.5  # seconds that a window needs to come up on a busy machine
+START = 4
+
 
 def desktop_of(theme, scale, home):
     """The environment of a person's desktop."""
@@ -368,22 +509,20 @@ def desktop_of(theme, scale, home):
     return environment
 
 
-def take(drive, theme, scale, names, out):
-    """All pictures of a theme and scale; the number of sessions that went through, and of those that did not."""
-    folder = out / f"{theme}-{scale}"
-    shutil.rmtree(folder, ignore_errors=True)
-    folder.mkdir(parents=True)
+def take(drive, theme, scale, sessions, folder, screen="1280x1024"):
+    """The pictures of sessions by their names; the number of those that went through, and of those that did not."""
+    folder.mkdir(parents=True, exist_ok=True)
     passed = 0
     with tempfile.TemporaryDirectory(prefix="brindlex-pictures-") as home:
         environment = desktop_of(theme, scale, pathlib.Path(home))
-        for name in names:
+        for name, session in sessions.items():
             working = pathlib.Path(home, name)
             working.mkdir()
             environment["BRINDLEX_BOXES"] = str(working / f"{name}-box")
             script = pathlib.Path(home, name + ".script")
-            script.write_text(SESSIONS[name], encoding="ascii")
+            script.write_text(session, encoding="ascii")
             run = subprocess.run(["xvfb-run", "-a", "-s", "-screen 0 2600x2100x24", drive, "--desktop", "--screen",
-                                  "1280x1024", "--dir", str(working), str(script)], env=environment, timeout=300,
+                                  screen, "--dir", str(working), str(script)], env=environment, timeout=300,
                                  stdout=subprocess.PIPE, stderr=subprocess.PIPE, check=False)
             if run.returncode == 0:
                 passed += 1
@@ -391,11 +530,51 @@ def take(drive, theme, scale, names, out):
                 harness.tell_failure(f"{theme} {scale} {name}", run.stdout[-300:], run.stderr)
             for picture in sorted(working.glob("*.png")):
                 shutil.move(str(picture), str(folder / picture.name))
-    pictures = sorted(map(str, folder.glob("*.png")))
+    return passed, len(sessions) - passed
+
+
+def act_out(steps, environment, folder):
+    """Presses the keys of a session and takes its pictures."""
+    for step in steps:
+        if step.startswith("shot "):
+            subprocess.run(["import", "-window", "root", "-trim", "+repage", str(folder / (step[5:] + ".png"))],
+                           env=environment, check=True)
+        elif step == "front":
+            subprocess.run(["xdotool", "search", "--onlyvisible", "--name", "Brindlex", "windowfocus"], env=environment,
+                           check=True)
+            time.sleep(PAUSE)
+        else:
+            subprocess.run(["xdotool", "key", "--delay", "40", *step.split()], env=environment, check=True)
+            time.sleep(PAUSE)
+
+
+def take_live(program, theme, scale, names, out):
+    """The same of the sessions of the program itself, one by one, as each wants a screen that the others leave alone."""
+    folder = out / f"{theme}-{scale}"
+    folder.mkdir(parents=True, exist_ok=True)
+    passed = 0
+    for name in names:
+        with tempfile.TemporaryDirectory(prefix="brindlex-pictures-") as home, harness.screen("2600x2100"):
+            environment = dict(desktop_of(theme, scale, pathlib.Path(home)), DISPLAY=os.environ["DISPLAY"])
+            with subprocess.Popen([program], env=environment, cwd=home, stderr=subprocess.DEVNULL) as running:
+                try:
+                    time.sleep(START)
+                    act_out(LIVE[name], environment, folder)
+                    assert running.poll() is None, "the program has ended"
+                    passed += 1
+                except (AssertionError, subprocess.CalledProcessError) as fault:
+                    harness.tell_failure(f"{theme} {scale} {name}", str(fault))
+                finally:
+                    running.terminate()
+    return passed, len(names) - passed
+
+
+def lay_out(theme, scale, out):
+    """All pictures of a theme and scale on one sheet."""
+    pictures = sorted(map(str, (out / f"{theme}-{scale}").glob("*.png")))
     if pictures and shutil.which("montage"):
         subprocess.run(["montage", "-label", "", *pictures, "-tile", "6x", "-geometry", "640x560>+8+8", "-background",
                         "#808080", str(out / f"{theme}-{scale}.png")], check=False)
-    return passed, len(names) - passed
 
 
 def main():
@@ -403,7 +582,7 @@ def main():
     parser.add_argument("--drive", required=True)
     parser.add_argument("--theme", action="append", choices=("light", "dark"))
     parser.add_argument("--scale", action="append", choices=SCALES)
-    parser.add_argument("--only", action="append", choices=tuple(SESSIONS))
+    parser.add_argument("--only", action="append", choices=(*SESSIONS, *LIVE))
     parser.add_argument("outdir")
     options = parser.parse_args()
     if shutil.which("xvfb-run") is None:
@@ -411,9 +590,18 @@ def main():
         sys.exit(77)
     drive, out = os.path.abspath(options.drive), pathlib.Path(options.outdir).absolute()
     runs = list(itertools.product(options.theme or ("light", "dark"), options.scale or SCALES))
-    names = options.only or list(SESSIONS)
-    counts = harness.in_parallel(lambda run: take(drive, *run, names, out), runs)
+    sessions = {name: SESSIONS[name] for name in SESSIONS if name in (options.only or SESSIONS)}
+    counts = harness.in_parallel(lambda run: take(drive, *run, sessions, out / "-".join(run)), runs)
+    if shutil.which("xdotool") and shutil.which("import"):
+        names = [name for name in LIVE if name in (options.only or LIVE)]
+        program = str(pathlib.Path(drive).with_name("brindlex"))
+        counts += [take_live(program, *run, names, out) for run in runs]
+    else:
+        print("No pictures of menus, lists and dialogs: xdotool or import is missing.")
+    for run in runs:
+        lay_out(*run, out)
     harness.finish("pictures", sum(good for good, _ in counts), sum(bad for _, bad in counts))
 
 
-main()
+if __name__ == "__main__":
+    main()

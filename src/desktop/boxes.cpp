@@ -2,11 +2,11 @@
 #include "desktop/boxes.h"
 
 #include "desktop/texts.h"
+#include "desktop/windowcapture.h"
 
 #include <QCoreApplication>
 #include <QInputDialog>
 #include <QMessageBox>
-#include <QPixmap>
 #include <QPushButton>
 
 #include <utility>
@@ -86,7 +86,7 @@ Answer AnswerOf(const QMessageBox& shown, int result) {
 void StandFor(QDialog& shown, const QString& picture) {
     QCoreApplication::processEvents();
     if (!picture.isEmpty()) {
-        shown.grab().save(picture);
+        SavePicture(shown, picture);
     }
 }
 

@@ -45,6 +45,11 @@ void ListBox::showPopup() {
         // As wide as its longest item, which the box may be too narrow for.
         view()->setMinimumWidth(std::min(view()->sizeHintForColumn(0) + ListMargin, WidestList));
         QComboBox::showPopup();
+        // A text that was never chosen from the list is found in it all the same.
+        const int shown = findText(FromText(combo_.Text()));
+        if (currentIndex() < 0 && shown >= 0) {
+            view()->setCurrentIndex(model()->index(shown, modelColumn()));
+        }
     }
 }
 

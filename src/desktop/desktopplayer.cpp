@@ -7,6 +7,7 @@
 #include "desktop/scrollbarpeer.h"
 #include "desktop/texts.h"
 #include "desktop/toolbarpeer.h"
+#include "desktop/windowcapture.h"
 #include "frame/picturebox.h"
 #include "frame/program.h"
 
@@ -328,7 +329,7 @@ void DesktopPlayer::Settle() {
 
 bool DesktopPlayer::Shot(Form& form, const std::string& path) {
     FormWindow* const window = runtime_.WindowOf(form);
-    return window != nullptr && window->grab().save(FromText(path));
+    return window != nullptr && SavePicture(*window, FromText(path));
 }
 
 }  // namespace brindlex

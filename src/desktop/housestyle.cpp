@@ -4,7 +4,9 @@
 #include "desktop/looks.h"
 #include "desktop/readers.h"
 
+#include <QAbstractScrollArea>
 #include <QApplication>
+#include <QComboBox>
 #include <QPainter>
 #include <QStyleOption>
 
@@ -18,9 +20,14 @@ constexpr double RingRounding = 2.5;
 constexpr int ButtonInset = 2;
 
 constexpr int CaptionGap = 3;
-// The outline of small fields on a dark ground, where the base draws it darker still.
-constexpr float OutlineStrength = 0.35F;
-constexpr float FaintOutline = 0.2F;
+constexpr int Lightest = 255;
+// How much of the words' colour an outline has, the rest being that of the ground: three to one in contrast, as the Web
+// Content Accessibility Guidelines ask for what shows where a control is. The base has two to one, and less when dark.
+constexpr double OutlineStrength = 0.45;
+constexpr double FaintOutline = 0.2;
+constexpr double ButtonOutline = 0.3;
+// The same of disabled words, to which the base leaves hardly a third.
+constexpr double DisabledStrength = 0.5;
 
 bool HasFocus(const QStyleOption& option) {
     return option.state.testFlag(QStyle::State_HasFocus) && option.state.testFlag(QStyle::State_Enabled);
@@ -33,6 +40,34 @@ QRect CaptionRect(const QStyleOption& option, const QStyle& style, const QWidget
     const int width =
         button == nullptr ? room.width() : button->fontMetrics.size(Qt::TextShowMnemonic, button->text).width();
     return QRect(room.left() - CaptionGap, room.top(), width + 2 * CaptionGap, room.height()) & option.rect;
+}
+
+// So much of the colour of plain words, and for the rest that of the ground.
+QColor Towards(const QPalette& palette, double share) {
+    const QColor ground = palette.color(QPalette::Active, QPalette::Window);
+    const int words = IsDark(palette) ? Lightest : 0;
+    const auto mixed = [share, words](int from) { return from + static_cast<int>((words - from) * share); };
+    return {mixed(ground.red()), mixed(ground.green()), mixed(ground.blue())};
+}
+
+void PaintOutline(QPainter& painter, const QStyleOption& option, double strength, bool round = false) {
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(Towards(option.palette, option.state.testFlag(QStyle::State_Enabled) ? strength : FaintOutline));
+    painter.setBrush(Qt::NoBrush);
+    const QRectF field = QRectF(option.rect).adjusted(0.5, 0.5, -0.5, -0.5);
+    if (round) {
+        painter.drawEllipse(field);
+    } else {
+        painter.drawRoundedRect(field, RingWidth, RingWidth);
+    }
+    painter.restore();
+}
+
+// A button that Enter presses shows that by its outline.
+bool IsDefault(const QStyleOption& option) {
+    const auto* const button = qstyleoption_cast<const QStyleOptionButton*>(&option);
+    return button != nullptr && button->features.testFlag(QStyleOptionButton::DefaultButton);
 }
 
 }  // namespace
@@ -52,12 +87,24 @@ HouseStyle::HouseStyle() : QProxyStyle(QStringLiteral("Fusion")) {
 
 void HouseStyle::drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
                              const QWidget* widget) const {
+    const auto* const combo = qstyleoption_cast<const QStyleOptionComboBox*>(option);
+    if (element == CE_ComboBoxLabel && combo != nullptr && !combo->editable) {
+        // What the box is too narrow for ends in an ellipsis.
+        QStyleOptionComboBox fitting(*combo);
+        const int room = subControlRect(CC_ComboBox, combo, SC_ComboBoxEditField, widget).width() - 2 * CaptionGap;
+        fitting.currentText = combo->fontMetrics.elidedText(combo->currentText, Qt::ElideRight, room);
+        QProxyStyle::drawControl(element, &fitting, painter, widget);
+        return;
+    }
     QProxyStyle::drawControl(element, option, painter, widget);
     // The menu under the keyboard before it opens, which the base shows by nothing.
     const bool menuAhead = element == CE_MenuBarItem && option->state.testFlag(State_Selected) &&
                            !option->state.testFlag(State_Sunken) && widget != nullptr && widget->hasFocus();
     if (menuAhead) {
         PaintFocusRing(*painter, option->rect, option->palette);
+    }
+    if (element == CE_ShapedFrame && qobject_cast<const QAbstractScrollArea*>(widget) != nullptr) {
+        PaintOutline(*painter, *option, OutlineStrength);
     }
     if (!HasFocus(*option)) {
         return;
@@ -82,11 +129,10 @@ void HouseStyle::drawControl(ControlElement element, const QStyleOption* option,
 void HouseStyle::drawComplexControl(ComplexControl control, const QStyleOptionComplex* option, QPainter* painter,
                                     const QWidget* widget) const {
     QProxyStyle::drawComplexControl(control, option, painter, widget);
-    if (!HasFocus(*option)) {
-        return;
+    if (control == CC_ComboBox) {
+        PaintOutline(*painter, *option, OutlineStrength);
     }
-    const auto* const combo = qstyleoption_cast<const QStyleOptionComboBox*>(option);
-    if (control == CC_ScrollBar || control == CC_ToolButton || (combo != nullptr && !combo->editable)) {
+    if (HasFocus(*option) && (control == CC_ScrollBar || control == CC_ToolButton || control == CC_ComboBox)) {
         PaintFocusRing(*painter, option->rect, option->palette);
     }
 }
@@ -94,23 +140,39 @@ void HouseStyle::drawComplexControl(ComplexControl control, const QStyleOptionCo
 void HouseStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
                                const QWidget* widget) const {
     QProxyStyle::drawPrimitive(element, option, painter, widget);
-    const bool round = element == PE_IndicatorRadioButton;
-    if (!IsDark(option->palette) || (!round && element != PE_IndicatorCheckBox && element != PE_FrameLineEdit)) {
-        return;
+    switch (element) {
+        case PE_IndicatorRadioButton:
+        case PE_IndicatorCheckBox:
+            PaintOutline(*painter, *option, OutlineStrength, element == PE_IndicatorRadioButton);
+            break;
+        case PE_FrameLineEdit:
+            // That of a list is painted with the whole of the list.
+            if (qobject_cast<const QComboBox*>(widget) != nullptr) {
+                break;
+            }
+            PaintOutline(*painter, *option, OutlineStrength);
+            if (HasFocus(*option)) {
+                PaintFocusRing(*painter, option->rect, option->palette);
+            }
+            break;
+        case PE_PanelButtonCommand:
+            // The base outlines them darker than the ground, which nobody sees when that is dark.
+            if (IsDark(option->palette) && !IsDefault(*option)) {
+                PaintOutline(*painter, *option, ButtonOutline);
+            }
+            break;
+        default:
+            break;
     }
-    QColor outline = option->palette.color(QPalette::Active, QPalette::WindowText);
-    outline.setAlphaF(option->state.testFlag(State_Enabled) ? OutlineStrength : FaintOutline);
-    painter->save();
-    painter->setRenderHint(QPainter::Antialiasing);
-    painter->setPen(outline);
-    painter->setBrush(Qt::NoBrush);
-    const QRectF field = QRectF(option->rect).adjusted(0.5, 0.5, -0.5, -0.5);
-    if (round) {
-        painter->drawEllipse(field);
-    } else {
-        painter->drawRoundedRect(field, RingWidth, RingWidth);
+}
+
+void HouseStyle::polish(QPalette& palette) {
+    QProxyStyle::polish(palette);
+    for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText}) {
+        palette.setColor(QPalette::Disabled, role, Towards(palette, DisabledStrength));
     }
-    painter->restore();
+    // A disabled menu lies on the same bar as the others.
+    palette.setColor(QPalette::Disabled, QPalette::Window, palette.color(QPalette::Active, QPalette::Window));
 }
 
 int HouseStyle::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,

@@ -6,7 +6,8 @@
 namespace brindlex {
 
 /// Fusion, which follows the system's colours, light or dark. Whatever has the focus shows a ring, by whichever way the
-/// focus came to it; the base draws one only for the Tab key, and the surface moves the focus by itself.
+/// focus came to it; the base draws one only for the Tab key, and the surface moves the focus by itself. What can be
+/// filled in or marked has an outline that stands out from the ground, and what is disabled can still be read.
 class HouseStyle : public QProxyStyle {
 public:
     HouseStyle();
@@ -17,6 +18,9 @@ public:
                             const QWidget* widget) const override;
     void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
                        const QWidget* widget) const override;
+    /// Of the whole program, whenever the system's colours change.
+    void polish(QPalette& palette) override;
+    using QProxyStyle::polish;
     int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
                   QStyleHintReturn* answer) const override;
 };

@@ -10,13 +10,26 @@
 #include <QComboBox>
 #include <QDropEvent>
 #include <QFocusEvent>
+#include <QHelpEvent>
 #include <QInputMethodEvent>
 #include <QMenu>
 #include <QMimeData>
+#include <QPainter>
+#include <QStyle>
+#include <QStyleOptionFrame>
+#include <QToolTip>
 
 #include <limits>
 
 namespace brindlex {
+
+namespace {
+
+// Beside its text a line keeps so many pixels free.
+constexpr int Margin = 2;
+constexpr char16_t Ellipsis = u'\u2026';
+
+}  // namespace
 
 LineBox::LineBox(QWidget* parent, FormWindow& window, EditControl& box)
     : QLineEdit(parent), window_(window), box_(box) {
@@ -92,7 +105,49 @@ bool LineBox::event(QEvent* event) {
         event->accept();
         return true;
     }
+    if (event->type() == QEvent::ToolTip && toolTip().isEmpty()) {
+        const QRect place = TextPlace();
+        const bool cut = IsCutAt(place.left()) || IsCutAt(place.right());
+        QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(), cut ? text().toHtmlEscaped() : QString(),
+                           this);
+        return true;
+    }
     return QLineEdit::event(event);
+}
+
+QRect LineBox::TextPlace() const {
+    QStyleOptionFrame option;
+    initStyleOption(&option);
+    return style()->subElementRect(QStyle::SE_LineEditContents, &option, this).adjusted(Margin, 0, -Margin, 0);
+}
+
+// Whether the text goes on beyond that place, which is one of the two ends of the box.
+bool LineBox::IsCutAt(int x) const {
+    const QRect place = TextPlace();
+    if (fontMetrics().horizontalAdvance(text()) <= place.width()) {
+        return false;
+    }
+    const auto at = static_cast<qsizetype>(const_cast<LineBox*>(this)->cursorPositionAt(QPoint(x, place.center().y())));
+    return x == place.left() ? at > 0 : at < text().size();
+}
+
+void LineBox::MarkCut(int x) {
+    const QRect place = TextPlace();
+    const int width = fontMetrics().horizontalAdvance(Ellipsis) + Margin;
+    const QRect patch(x == place.left() ? x - Margin : x + Margin - width + 1, place.top(), width, place.height());
+    // Where the caret stands a person reads on by moving it.
+    if (IsCutAt(x) && !(hasFocus() && patch.intersects(cursorRect()))) {
+        QPainter painter(this);
+        painter.fillRect(patch, palette().base());
+        painter.setPen(palette().color(QPalette::Text));
+        painter.drawText(patch, Qt::AlignCenter, QString(Ellipsis));
+    }
+}
+
+void LineBox::paintEvent(QPaintEvent* event) {
+    QLineEdit::paintEvent(event);
+    MarkCut(TextPlace().left());
+    MarkCut(TextPlace().right());
 }
 
 void LineBox::keyPressEvent(QKeyEvent* event) {

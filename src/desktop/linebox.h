@@ -1,4 +1,6 @@
 // The widget of one line of text: it shows, selects and moves the caret by itself, and edits nothing; the surface does.
+// Where a text is longer than the box, an ellipsis marks the end that is out of sight, as a number that lost digits may
+// look like a whole one; the pointer brings up all of it.
 #pragma once
 
 #include "frame/editcontrol.h"
@@ -24,6 +26,7 @@ public:
 
 protected:
     bool event(QEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void contextMenuEvent(QContextMenuEvent* event) override;
     void dropEvent(QDropEvent* event) override;
@@ -36,6 +39,9 @@ protected:
 
 private:
     void TakeSelection();
+    [[nodiscard]] QRect TextPlace() const;
+    [[nodiscard]] bool IsCutAt(int x) const;
+    void MarkCut(int x);
 
     FormWindow& window_;
     EditControl& box_;

@@ -5,6 +5,7 @@
 
 #include <QKeyEvent>
 #include <QPainter>
+#include <QStyleOption>
 
 namespace brindlex {
 
@@ -20,6 +21,12 @@ void LinkLabel::keyPressEvent(QKeyEvent* event) {
     } else {
         event->ignore();
     }
+}
+
+// Its ring goes around the words alone.
+void LinkLabel::initStyleOption(QStyleOptionFrame* option) const {
+    QLabel::initStyleOption(option);
+    option->state.setFlag(QStyle::State_HasFocus, false);
 }
 
 void LinkLabel::paintEvent(QPaintEvent* event) {

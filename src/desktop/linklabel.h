@@ -17,6 +17,7 @@ public:
 protected:
     void keyPressEvent(QKeyEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
+    void initStyleOption(QStyleOptionFrame* option) const override;
 
 private:
     std::function<void()> press_;

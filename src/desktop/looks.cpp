@@ -4,9 +4,7 @@
 #include "desktop/texts.h"
 #include "frame/fontwidths.h"
 
-#include <QGuiApplication>
 #include <QPalette>
-#include <QScreen>
 #include <QStringList>
 
 #include <algorithm>
@@ -16,7 +14,8 @@ namespace brindlex {
 
 namespace {
 
-constexpr double PixelsPerInch = TwipsPerInch / TwipsPerPixel;
+// What a size that is a product may lack of a whole pixel.
+constexpr double Hair = 1e-6;
 
 // Of 255.
 constexpr int DarkBelow = 128;
@@ -73,10 +72,10 @@ QFont ScreenFont(const std::string& name, double points, bool bold) {
     QFont font = Named(name, bold);
     // Sharp across, but as wide at every size as the outlines say, so that what fits a box at one size fits at all.
     font.setHintingPreference(QFont::PreferVerticalHinting);
-    // A point is 20 twips whatever resolution the screen claims.
-    const QScreen* const screen = QGuiApplication::primaryScreen();
-    const double claimed = screen == nullptr ? PixelsPerInch : screen->logicalDotsPerInchY();
-    font.setPointSizeF(std::max(points, 1.0) * PixelsPerInch / claimed);
+    // A point is 20 twips whatever resolution the screen claims. Letters come in whole pixels: never the next larger
+    // ones, with which a text that fits its place at one size would lose its end at another.
+    const double pixels = points * TwipsPerPoint / TwipsPerPixel;
+    font.setPixelSize(std::max(static_cast<int>(pixels + Hair), 1));
     return font;
 }
 

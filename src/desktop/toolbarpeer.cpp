@@ -2,6 +2,7 @@
 #include "desktop/toolbarpeer.h"
 
 #include "desktop/formwindow.h"
+#include "desktop/looks.h"
 #include "desktop/texts.h"
 #include "desktop/toolicons.h"
 #include "desktop/toolwidget.h"
@@ -14,6 +15,7 @@ namespace {
 
 constexpr int SeparatorWidth = 10;
 constexpr int IconInset = 3;
+constexpr Colour Accent{0, 110, 220};
 
 }  // namespace
 
@@ -62,9 +64,11 @@ void ToolbarPeer::MirrorOwn(Aspect aspect) {
         LayOut();
     }
     if (aspect == Aspect::All || aspect == Aspect::Look) {
+        const QPalette& palette = Widget()->palette();
+        const QColor accent = InkOn(palette, Accent);
         for (const Tool& tool : tools_) {
             if (tool.button != nullptr) {
-                tool.button->setIcon(ToolIcon(tool.key, Widget()->palette().color(QPalette::ButtonText)));
+                tool.button->setIcon(ToolIcon(tool.key, palette.color(QPalette::ButtonText), accent));
             }
         }
     }

@@ -17,7 +17,6 @@ namespace {
 constexpr double Field = 24;
 constexpr double StrokeWidth = 1.6;
 constexpr float FaintShare = 0.45F;
-constexpr QColor AccentInk(0, 110, 220);
 
 enum class Shape { Line, Circle, Dot, Eye };
 enum class Tint { Ink, Accent, Faint };
@@ -32,7 +31,6 @@ struct Stroke {
     Tint tint = Tint::Ink;
 };
 
-// What is made or meant stands in the accent; what is there already in ink.
 constexpr Stroke Strokes[] = {
     {"Circle", Shape::Circle, 12, 12, 8, 0, Tint::Accent},
     {"Circle", Shape::Dot, 12, 12, 1.4, 0},
@@ -88,7 +86,7 @@ constexpr Stroke Strokes[] = {
 
 class StrokeIcon : public QIconEngine {
 public:
-    StrokeIcon(std::string_view key, const QColor& ink) : key_(key), ink_(ink) {}
+    StrokeIcon(std::string_view key, const QColor& ink, const QColor& accent) : key_(key), ink_(ink), accent_(accent) {}
 
     void paint(QPainter* painter, const QRect& rect, QIcon::Mode mode, QIcon::State /*state*/) override {
         painter->save();
@@ -112,11 +110,11 @@ public:
         paint(&painter, QRect(QPoint(0, 0), size), mode, state);
         return pixmap;
     }
-    [[nodiscard]] QIconEngine* clone() const override { return new StrokeIcon(key_, ink_); }
+    [[nodiscard]] QIconEngine* clone() const override { return new StrokeIcon(key_, ink_, accent_); }
 
 private:
     void PaintStroke(QPainter& painter, const Stroke& stroke, bool grey) const {
-        QColor colour = stroke.tint == Tint::Accent && !grey ? AccentInk : ink_;
+        QColor colour = stroke.tint == Tint::Accent && !grey ? accent_ : ink_;
         if (stroke.tint == Tint::Faint) {
             colour.setAlphaF(FaintShare);
         }
@@ -138,15 +136,16 @@ private:
 
     std::string_view key_;
     QColor ink_;
+    QColor accent_;
 };
 
 }  // namespace
 
-QIcon ToolIcon(const std::string& key, const QColor& ink) {
+QIcon ToolIcon(const std::string& key, const QColor& ink, const QColor& accent) {
     const auto* const found =
         std::find_if(std::begin(Strokes), std::end(Strokes), [&](const Stroke& stroke) { return stroke.key == key; });
     // The key of the table, as it outlives the one that was asked for.
-    return QIcon(new StrokeIcon(found == std::end(Strokes) ? std::string_view() : found->key, ink));
+    return QIcon(new StrokeIcon(found == std::end(Strokes) ? std::string_view() : found->key, ink, accent));
 }
 
 }  // namespace brindlex

@@ -8,7 +8,8 @@
 
 namespace brindlex {
 
-/// The picture for a tool's key; a plain square where there is none.
-[[nodiscard]] QIcon ToolIcon(const std::string& key, const QColor& ink);
+/// The picture for a tool's key; a plain square where there is none. What is there already stands in ink, what is made
+/// or meant in the accent.
+[[nodiscard]] QIcon ToolIcon(const std::string& key, const QColor& ink, const QColor& accent);
 
 }  // namespace brindlex

@@ -3,6 +3,10 @@
 
 #include "desktop/pixels.h"
 
+#include <QApplication>
+#include <QDeadlineTimer>
+#include <QPixmap>
+#include <QThread>
 #include <QWidget>
 
 #include <memory>
@@ -12,6 +16,9 @@ namespace brindlex {
 namespace {
 
 constexpr int Sharpness = 4;
+// In milliseconds, for a window system that brings nothing to the front.
+constexpr int Patience = 2000;
+constexpr int Nap = 5;
 
 }  // namespace
 
@@ -25,6 +32,22 @@ Snapshot CaptureWidget(QWidget& widget) {
     snapshot.Height = Twips(widget.height());
     snapshot.Window = std::make_shared<const WindowCapture>(std::move(image));
     return snapshot;
+}
+
+bool SavePicture(QWidget& window, const QString& path) {
+    const QDeadlineTimer until(Patience);
+    const QWidget* const modal = QApplication::activeModalWidget();
+    const bool comesToFront = window.isVisible() && (modal == nullptr || modal == &window);
+    if (comesToFront) {
+        // Where there is no window manager nobody else does that when a box goes away.
+        window.activateWindow();
+    }
+    while (comesToFront && !window.isActiveWindow() && !until.hasExpired()) {
+        QThread::msleep(Nap);
+        QCoreApplication::processEvents();
+    }
+    QCoreApplication::processEvents();
+    return window.grab().save(path);
 }
 
 }  // namespace brindlex

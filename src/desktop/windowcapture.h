@@ -7,6 +7,7 @@
 
 #include <utility>
 
+class QString;
 class QWidget;
 
 namespace brindlex {
@@ -22,5 +23,8 @@ private:
 
 /// Captures a widget with all that stands on it.
 [[nodiscard]] Snapshot CaptureWidget(QWidget& widget);
+/// Saves a picture of a window as a person sees it: the window system needs a moment to bring it to the front, and what
+/// has the focus is not marked before. Whether it could be saved.
+bool SavePicture(QWidget& window, const QString& path);
 
 }  // namespace brindlex
