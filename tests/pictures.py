@@ -478,7 +478,7 @@ def typed(text):
 LIVE = {
     "live-right": ["alt+r", *menus("right", "fenuh"), "alt+f Down Down Right", "shot right-menu-print", OUT_OF_MENU,
                    "F4", "shot right-list", "Escape", "alt+f Return", "shot dialog-open", "Escape", "front",
-                   f"Tab {typed('3')} Tab {typed('4')} Return", "alt+f Down Return", "shot dialog-save", "Escape", "front",
+                   f"Tab {typed('5')} Tab {typed('4')} Return", "alt+f Down Return", "shot dialog-save", "Escape", "front",
                    "alt+f Down Down Right Return", "shot dialog-print", "Escape"],
     "live-oblique": ["alt+o", *menus("oblique", "feu"), "F4", "shot oblique-list", "Escape"],
     "live-bolt": ["alt+b", *menus("bolt", "feu"), "alt+f Up Up Right", "shot bolt-menu-print", OUT_OF_MENU],
