@@ -122,12 +122,12 @@ QRect LineBox::TextPlace() const {
 }
 
 // Whether the text goes on beyond that place, which is one of the two ends of the box.
-bool LineBox::IsCutAt(int x) const {
+bool LineBox::IsCutAt(int x) {
     const QRect place = TextPlace();
     if (fontMetrics().horizontalAdvance(text()) <= place.width()) {
         return false;
     }
-    const auto at = static_cast<qsizetype>(const_cast<LineBox*>(this)->cursorPositionAt(QPoint(x, place.center().y())));
+    const auto at = static_cast<qsizetype>(cursorPositionAt(QPoint(x, place.center().y())));
     return x == place.left() ? at > 0 : at < text().size();
 }
 

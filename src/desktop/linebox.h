@@ -40,7 +40,7 @@ protected:
 private:
     void TakeSelection();
     [[nodiscard]] QRect TextPlace() const;
-    [[nodiscard]] bool IsCutAt(int x) const;
+    [[nodiscard]] bool IsCutAt(int x);
     void MarkCut(int x);
 
     FormWindow& window_;
