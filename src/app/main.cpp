@@ -26,13 +26,13 @@ void EndInOrder(Program& program) {
     });
 }
 
-// The icon of all windows: that of the theme, or the one that the program carries.
+// The icon of all windows. Carried along: to look for it in the themes costs a quarter of the whole start.
 QIcon OwnIcon() {
-    QIcon carried;
+    QIcon icon;
     for (const int size : {16, 32, 48, 128}) {
-        carried.addFile(QStringLiteral(":/icon/%1x%1/apps/brindlex.png").arg(size), QSize(size, size));
+        icon.addFile(QStringLiteral(":/icon/%1x%1/apps/brindlex.png").arg(size), QSize(size, size));
     }
-    return QIcon::fromTheme(QStringLiteral("brindlex"), carried);
+    return icon;
 }
 
 int RunProgram(int argc, char** argv) {
