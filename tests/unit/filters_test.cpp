@@ -410,6 +410,8 @@ TEST_F(Filters, AKeyThatIsSwallowedBecomesZero) {
 TEST_F(Filters, AFormWithoutItsMembersIsAnError) {
     EXPECT_EQ(FaultOf([&] { const MemberForm form(program.Owner, "Form8", TextBoxes(1, 4)); }),
               FaultNumber::BadArgument);
+    EXPECT_EQ(WordsOf([&] { const MemberForm form(program.Owner, "Form8", TextBoxes(1, 4)); }),
+              "Form8 has no box Text5");
     EXPECT_EQ(FaultOf([&] { const MemberForm form(program.Owner, "Form99", {}); }), std::nullopt);
 }
 
