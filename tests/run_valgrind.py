@@ -4,9 +4,9 @@
     run_valgrind.py --drive build/release/bin/brindlex-drive-desktop [--each 20 | --most N] [SCRIPT or FOLDER...]
 
 Without a name it takes so many sessions of every folder of tests/scripts, evenly spread, the first of every folder
-first; 0 takes them all. With --most it takes N sessions that between them come to every form and dialog and do
-as many different things as they can, a command on a control each, and tells how many of all. A session counts as clean with no error and no block definitely lost; valgrind.supp beside
-this file names what is the system's own.
+first; 0 takes them all. With --most it takes N sessions that between them come to every form and do as many different
+things as they can, a command on a control each, and tells how many of all. A session counts as clean with no error and
+no block definitely lost; valgrind.supp beside this file names what is the system's own.
 """
 
 import argparse
@@ -51,7 +51,7 @@ def deeds_of(script):
 
 
 def places_of(deeds):
-    """The forms that they are done on; what has no form, as the answer to a file dialog, is a place of its own."""
+    """The forms that they are done on; what has no form, as each answer to a dialog, is a place of its own."""
     return {target.split(".")[0] or word for word, target in deeds}
 
 
@@ -65,8 +65,9 @@ def most_different(number):
         best = max(left, key=lambda script: (len(places_of(left[script]) - places_of(done)), len(left[script] - done)))
         chosen.append(best)
         done |= left.pop(best)
-    print(f"{len(chosen)} sessions: {len(done)} of {len(everything)} different deeds, "
-          f"{len(places_of(done))} of {len(places_of(everything))} forms and dialogs", flush=True)
+    forms = [sum(place.startswith("Form") for place in places_of(deeds)) for deeds in (done, everything)]
+    print(f"{len(chosen)} sessions: {len(done)} of {len(everything)} different deeds, {forms[0]} of {forms[1]} forms",
+          flush=True)
     return chosen
 
 
