@@ -38,7 +38,7 @@ wait $id
 SCRIPT
     chmod +x "$root/usr/local/bin/starts"
     local told
-    told=$(as_user xvfb-run -a /usr/local/bin/starts 2>"$work/told") || { cat "$work/told"; exit 1; }
+    told=$(as_user xvfb-run -a -s "-screen 0 1280x1024x24 -noreset" /usr/local/bin/starts 2>"$work/told") || { cat "$work/told"; exit 1; }
     [ "$(tail -n 1 <<<"$told")" = /home/toolmaker/.local/share/brindlex ] || { echo "it works in: $told"; exit 1; }
 }
 

@@ -19,11 +19,12 @@ def in_parallel(work, items, jobs=None):
 
 @contextlib.contextmanager
 def screen(size="1280x1024"):
-    """A screen of its own, that no other run can take away, named by DISPLAY."""
+    """A screen of its own, that no other run can take away, named by DISPLAY. It is not made anew after its last client,
+    which would keep out one that comes just then."""
     before = os.environ.get("DISPLAY")
     name, other = os.pipe()
-    with subprocess.Popen(["Xvfb", "-displayfd", str(other), "-screen", "0", f"{size}x24", "-nolisten", "tcp"],
-                          pass_fds=[other], stderr=subprocess.DEVNULL) as server:
+    command = ["Xvfb", "-displayfd", str(other), "-screen", "0", f"{size}x24", "-nolisten", "tcp", "-noreset"]
+    with subprocess.Popen(command, pass_fds=[other], stderr=subprocess.DEVNULL) as server:
         os.close(other)
         try:
             with os.fdopen(name) as told:

@@ -431,7 +431,7 @@ def main():
     if missing:
         print(f"Missing: {', '.join(missing)}")
         sys.exit(77)
-    sys.exit(subprocess.run(["xvfb-run", "-a", "-s", "-screen 0 1280x1024x24", "dbus-run-session", "--", pythons[0],
+    sys.exit(subprocess.run(["xvfb-run", "-a", "-s", "-screen 0 1280x1024x24 -noreset", "dbus-run-session", "--", pythons[0],
                              __file__, "--inside", "--program", program], check=False, timeout=240).returncode)
 
 
