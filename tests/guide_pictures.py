@@ -12,7 +12,7 @@ import os
 import pathlib
 
 import harness
-from pictures import take
+from pictures import MISSES, take
 
 GUSSET = """
 start
@@ -203,23 +203,7 @@ type Form17.Text4 ".25"
 press Form17.Command1
 shot Form17 "geometry-fillet.png"
 """,
-    "miss": """
-start
-press Form11.Command8
-type Form17.Text1 "0"
-type Form17.Text2 "0"
-type Form17.Text3 "1"
-press Form17.Command1
-tool Form17.Toolbar1 "Point"
-type Form17.Text10 "0"
-type Form17.Text11 "1"
-press Form17.Command1
-tool Form17.Toolbar1 "Connect"
-press Form17.Option1
-type Form17.Text12 "1"
-press Form17.Option6
-type Form17.Text17 "2"
-press Form17.Command1
+    "miss": MISSES + """
 shot Form17 "geometry-not-every-line.png"
 """,
     "mill": """

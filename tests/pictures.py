@@ -39,6 +39,26 @@ dialog "a.geo"
 menu Form17.OpenIt
 """
 
+# Lines that miss their circle.
+MISSES = """
+start
+press Form11.Command8
+type Form17.Text1 "0"
+type Form17.Text2 "0"
+type Form17.Text3 "1"
+press Form17.Command1
+tool Form17.Toolbar1 "Point"
+type Form17.Text10 "0"
+type Form17.Text11 "1"
+press Form17.Command1
+tool Form17.Toolbar1 "Connect"
+press Form17.Option1
+type Form17.Text12 "1"
+press Form17.Option6
+type Form17.Text17 "2"
+press Form17.Command1
+"""
+
 RIGHT = """
 start
 press Form11.Command1
@@ -334,23 +354,7 @@ tool Form17.Toolbar1 "Connect"
 mouse Form17.Picture1 move 1.2375 -0.6958
 shot Form17 "board-enlarged-connect.png"
 """,
-    "board-misses": """
-start
-press Form11.Command8
-type Form17.Text1 "0"
-type Form17.Text2 "0"
-type Form17.Text3 "1"
-press Form17.Command1
-tool Form17.Toolbar1 "Point"
-type Form17.Text10 "0"
-type Form17.Text11 "1"
-press Form17.Command1
-tool Form17.Toolbar1 "Connect"
-press Form17.Option1
-type Form17.Text12 "1"
-press Form17.Option6
-type Form17.Text17 "2"
-press Form17.Command1
+    "board-misses": MISSES + """
 shot Form17 "board-misses.png"
 """,
     "right-long": """
