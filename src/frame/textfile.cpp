@@ -140,7 +140,12 @@ std::string TextFromUtf8(std::string_view utf8) {
 }
 
 PrintLine& PrintLine::Text(std::string_view text) {
+    // A line end may stand in the text, or begin with what stands before it.
+    const std::size_t seam = std::max(line_.size(), start_ + 1) - 1;
     line_ += text;
+    for (std::size_t end = line_.find(LineEnd, seam); end != std::string::npos; end = line_.find(LineEnd, start_)) {
+        start_ = end + LineEnd.size();
+    }
     return *this;
 }
 
@@ -159,15 +164,10 @@ PrintLine& PrintLine::Comma() {
 PrintLine& PrintLine::Tab(int column) {
     const std::size_t target = static_cast<std::size_t>(std::max(column, 1)) - 1;
     if (Column() > target) {
-        line_ += LineEnd;
+        Text(LineEnd);
     }
     line_.append(target - Column(), ' ');
     return *this;
-}
-
-std::size_t PrintLine::Column() const {
-    const std::size_t end = line_.rfind(LineEnd);
-    return end == std::string::npos ? line_.size() : line_.size() - end - LineEnd.size();
 }
 
 InputFile::InputFile(const fs::path& path) {

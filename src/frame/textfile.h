@@ -4,6 +4,7 @@
 // Ground floor: includes only the standard library.
 #pragma once
 
+#include <cstddef>
 #include <filesystem>
 #include <fstream>
 #include <string>
@@ -32,9 +33,10 @@ public:
     [[nodiscard]] const std::string& Str() const noexcept { return line_; }
 
 private:
-    [[nodiscard]] std::size_t Column() const;  // from 0, within the last line
+    [[nodiscard]] std::size_t Column() const { return line_.size() - start_; }  // from 0, within the last line
 
     std::string line_;
+    std::size_t start_ = 0;  // of the last line
 };
 
 /// A file open for input. Lines end at carriage return and line feed, at a lone carriage return or a lone line feed.

@@ -123,6 +123,14 @@ TEST(PrintLine, TabBehindAColumnStartsANewLine) {
     EXPECT_EQ(PrintLine().Text("abc").Tab(1).Comma().Text("x").Str(), "abc\r\n" + std::string(14, ' ') + "x");
 }
 
+TEST(PrintLine, ColumnsAreThoseOfTheLastLine) {
+    EXPECT_EQ(PrintLine().Text("abc\r\nd\r\nef").Tab(4).Text("x").Str(), "abc\r\nd\r\nef x");
+    EXPECT_EQ(PrintLine().Text("abc\r\n").Comma().Text("x").Str(), "abc\r\n" + std::string(14, ' ') + "x");
+    EXPECT_EQ(PrintLine().Text("abc\r").Text("\ndef").Tab(5).Text("x").Str(), "abc\r\ndef x");
+    EXPECT_EQ(PrintLine().Text("a\rb\nc").Tab(7).Text("x").Str(), "a\rb\nc x");
+    EXPECT_EQ(PrintLine().Text("\r\n").Text("\n").Tab(3).Text("x").Str(), "\r\n\n x");
+}
+
 TEST(PrintLine, NumbersHaveABlankBehind) {
     EXPECT_EQ(PrintLine().Number(7.0).Text("x").Str(), " 7 x");
     EXPECT_EQ(PrintLine().Number(-0.5).Str(), "-.5 ");
