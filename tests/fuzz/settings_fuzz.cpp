@@ -1,12 +1,14 @@
 // Settings files and documents of any bytes: the readers give texts within their limits and the very lines of the file,
 // they never throw, and reading changes no file.
 #include "readfuzz.h"
+#include "scratch.h"
 
 #include "frame/textfile.h"
 #include "services/rounding.h"
 #include "services/settings.h"
 
-#include <sys/mman.h>
+#include <fcntl.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 #include <array>
@@ -23,33 +25,36 @@ using namespace brindlex;
 constexpr std::array<std::string_view, 4> Keys = {"DMS=", "Shape=", "Text=", "Rounding="};
 constexpr std::size_t DocumentLines = 7;
 
-/// A file without a name on any disk, which is written anew for every run.
-class MemoryFile {
+/// A file that stays open and is written anew for every run.
+class LastingFile {
 public:
-    MemoryFile() : descriptor_(::memfd_create("fuzz", 0)) { Demand(descriptor_ >= 0); }
-    ~MemoryFile() { ::close(descriptor_); }
-    MemoryFile(const MemoryFile&) = delete;
-    MemoryFile& operator=(const MemoryFile&) = delete;
+    LastingFile() : descriptor_(::open(Name().c_str(), O_RDWR | O_CREAT, S_IRUSR | S_IWUSR)) {
+        Demand(descriptor_ >= 0);
+    }
+    ~LastingFile() { ::close(descriptor_); }
+    LastingFile(const LastingFile&) = delete;
+    LastingFile& operator=(const LastingFile&) = delete;
 
     void Put(const std::uint8_t* data, std::size_t size) const {
-        Demand(::ftruncate(descriptor_, 0) == 0);
         Demand(::pwrite(descriptor_, data, size, 0) == static_cast<ssize_t>(size));
+        Demand(::ftruncate(descriptor_, static_cast<off_t>(size)) == 0);
     }
     [[nodiscard]] bool Holds(std::string_view content) const {
         std::string held(content.size() + 1, '\0');
         const ssize_t length = ::pread(descriptor_, held.data(), held.size(), 0);
         return std::string_view(held.data(), static_cast<std::size_t>(length)) == content;
     }
-    [[nodiscard]] std::string Name() const { return "/proc/self/fd/" + std::to_string(descriptor_); }
+    [[nodiscard]] std::string Name() const { return (scratch_.Path() / "settings.dat").string(); }
 
 private:
+    ScratchFolder scratch_;
     int descriptor_;
 };
 
 }  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-    static const MemoryFile file;
+    static const LastingFile file;
     static const std::string name = file.Name();
     static const Folder folder("/");
     file.Put(data, size);
