@@ -8,6 +8,7 @@
 #include "services/activebox.h"
 #include "services/documents.h"
 #include "services/printing.h"
+#include "services/units.h"
 
 #include <string_view>
 
@@ -21,7 +22,6 @@ constexpr DocumentKind Document{
 constexpr std::string_view EntryNames[] = {"Text1", "Text2", "Text3", "Text4", "Text5"};
 constexpr std::string_view PastedNames[] = {"Text1", "Text2", "Text3", "Text4", "Text5", "Text6"};
 constexpr std::string_view AllDecimals = ".000000000000000";
-constexpr double MillimetersPerInch = 25.4;
 
 void PrintLines(PrinterObject& printer, int count) {
     for (int line = 0; line < count; ++line) {

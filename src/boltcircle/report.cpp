@@ -11,7 +11,6 @@ namespace brindlex::boltcircle {
 
 namespace {
 
-constexpr double FullTurn = 360;
 constexpr std::string_view LineEnd = "\r\n";
 constexpr std::string_view Degree(&DegreeSign, 1);
 // A line of a hole is seldom longer.

@@ -9,8 +9,6 @@ namespace brindlex::boltcircle {
 
 namespace {
 
-constexpr double FullTurn = 360;
-
 // What the number reads as once it was written by the mask; zeros that trail there make no difference.
 double Rounded(Checked number, std::string_view mask) {
     return Val(Format(number.Value(), mask));

@@ -5,6 +5,7 @@
 #include "boltcircle/report.h"
 #include "boltcircle/solver.h"
 #include "frame/text.h"
+#include "services/degrees.h"
 #include "services/rounding.h"
 
 #include <array>
@@ -15,7 +16,6 @@ namespace {
 
 using boltcircle::Pattern;
 
-constexpr double FullTurn = 360;
 constexpr const char* NotCompleted = "the center, the diameter and the number of holes are needed";
 constexpr const char* ZeroDiameter = "the diameter must be above 0";
 constexpr const char* ZeroHoles = "the number of holes must be above 0";

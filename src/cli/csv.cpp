@@ -11,7 +11,7 @@ namespace {
 
 constexpr std::string_view ByteOrderMark = "\xEF\xBB\xBF";
 
-[[noreturn]] void Refuse(std::size_t line, const char* why) {
+[[noreturn]] void RefuseText(std::size_t line, const char* why) {
     throw Failure(Exit::BadInput, "line " + std::to_string(line) + ": " + why);
 }
 
@@ -39,7 +39,7 @@ void CsvReader::TakeQuoted(std::string& field) {
         if (c == '"' && text_.substr(at_, 2) != "\"\"") {
             ++at_;
             if (!AtEnd() && std::string_view(",\r\n").find(text_[at_]) == std::string_view::npos) {
-                Refuse(line_, "there is text behind a quoted one");
+                RefuseText(line_, "there is text behind a quoted one");
             }
             return;
         }
@@ -47,7 +47,7 @@ void CsvReader::TakeQuoted(std::string& field) {
         line_ += c == '\n' ? 1 : 0;
         field += c;
     }
-    Refuse(began, "a quote is not ended");
+    RefuseText(began, "a quote is not ended");
 }
 
 void CsvReader::TakeField(std::string& field) {
@@ -59,7 +59,7 @@ void CsvReader::TakeField(std::string& field) {
     const std::size_t end = std::min(text_.find_first_of(",\r\n", at_), text_.size());
     field = text_.substr(at_, end - at_);
     if (field.find('"') != std::string::npos) {
-        Refuse(line_, "a quote stands within a text");
+        RefuseText(line_, "a quote stands within a text");
     }
     at_ = end;
 }

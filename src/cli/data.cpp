@@ -15,7 +15,6 @@ namespace brindlex::cli {
 
 namespace {
 
-using speedsfeeds::Record;
 using DataUnit = speedsfeeds::Unit;
 using Lines = std::vector<std::string>;
 
@@ -25,22 +24,22 @@ constexpr std::string_view LineEnd = "\r\n";
 struct FieldRow {
     std::string_view Name;
     std::string_view Spoken;
-    std::string Record::*Text;
+    std::string speedsfeeds::Record::*Text;
     bool Needed;
 };
-constexpr FieldRow Fields[] = {{"tool", "tool", &Record::Tool, true},
-                               {"tool_material", "tool material", &Record::ToolMaterial, true},
-                               {"work_material", "work material", &Record::WorkMaterial, true},
-                               {"speed_range", "speed range", &Record::SpeedRange, true},
-                               {"feed_range", "feed range", &Record::FeedRange, true},
-                               {"power_factor", "power factor", &Record::PowerFactor, false}};
-constexpr std::string_view Head =
+constexpr FieldRow Fields[] = {{"tool", "tool", &speedsfeeds::Record::Tool, true},
+                               {"tool_material", "tool material", &speedsfeeds::Record::ToolMaterial, true},
+                               {"work_material", "work material", &speedsfeeds::Record::WorkMaterial, true},
+                               {"speed_range", "speed range", &speedsfeeds::Record::SpeedRange, true},
+                               {"feed_range", "feed range", &speedsfeeds::Record::FeedRange, true},
+                               {"power_factor", "power factor", &speedsfeeds::Record::PowerFactor, false}};
+constexpr std::string_view ColumnNames =
     "line,unit,tool,tool_material,work_material,speed_range,feed_range,power_factor,text\n";
 
 /// A line of the file as the calculator reads it.
 struct Parsed {
     DataUnit Unit = DataUnit::Inch;
-    Record Data;
+    speedsfeeds::Record Data;
     bool Whole = false;  ///< written anew it is the same line, and nothing needed is missing
 };
 
@@ -56,7 +55,7 @@ Parsed Parse(const std::string& line) {
     return parsed;
 }
 
-std::string_view WordOf(DataUnit unit) {
+std::string_view DataWordOf(DataUnit unit) {
     return unit == DataUnit::Inch ? "in" : "mm";
 }
 
@@ -64,12 +63,12 @@ std::string_view WordOf(DataUnit unit) {
 
 /// Whether a line is wanted; one that is no record only where nothing is filtered.
 bool Wanted(const Parsed& parsed, const Arguments& given) {
-    constexpr std::pair<std::string_view, std::string Record::*> Filters[] = {
-        {"--tool", &Record::Tool},
-        {"--tool-material", &Record::ToolMaterial},
-        {"--work-material", &Record::WorkMaterial}};
+    constexpr std::pair<std::string_view, std::string speedsfeeds::Record::*> Filters[] = {
+        {"--tool", &speedsfeeds::Record::Tool},
+        {"--tool-material", &speedsfeeds::Record::ToolMaterial},
+        {"--work-material", &speedsfeeds::Record::WorkMaterial}};
     const auto unit = given.Text("--unit");
-    if (unit && (!parsed.Whole || *unit != WordOf(parsed.Unit))) {
+    if (unit && (!parsed.Whole || *unit != DataWordOf(parsed.Unit))) {
         return false;
     }
     return std::all_of(std::begin(Filters), std::end(Filters), [&](const auto& filter) {
@@ -80,7 +79,7 @@ bool Wanted(const Parsed& parsed, const Arguments& given) {
 
 Line RowOf(std::size_t number, const std::string& line, const Parsed& parsed) {
     Line row{{"line", std::to_string(number), "", true, false}};
-    row.push_back({"unit", parsed.Whole ? std::string(WordOf(parsed.Unit)) : "", "", false, false});
+    row.push_back({"unit", parsed.Whole ? std::string(DataWordOf(parsed.Unit)) : "", "", false, false});
     for (const FieldRow& field : Fields) {
         row.push_back({field.Name, parsed.Whole ? Utf8FromText(parsed.Data.*field.Text) : "", "", false, false});
     }
@@ -99,7 +98,7 @@ std::string List(const std::string& file, const Arguments& given, Style style) {
         }
     }
     if (style == Style::Csv && answer.Lines.empty()) {
-        return std::string(Head);
+        return std::string(ColumnNames);
     }
     if (style != Style::Csv) {
         answer.Items.push_back({"lines_listed", std::to_string(answer.Lines.size()), "", true, false});
@@ -114,7 +113,7 @@ std::string FaultOf(const Parsed& parsed) {
     if (!parsed.Whole) {
         return "this is no record";
     }
-    const Record& data = parsed.Data;
+    const speedsfeeds::Record& data = parsed.Data;
     for (const FieldRow& field : {Fields[3], Fields[4]}) {
         if (!IsRange(data.*field.Text)) {
             return "the " + std::string(field.Spoken) + " is no range above 0: " + data.*field.Text;
@@ -147,7 +146,7 @@ private:
     std::map<std::string, std::size_t> paths_;
 };
 
-std::string Check(const std::string& file) {
+std::string CheckedText(const std::string& file) {
     std::string findings;
     std::size_t bad = 0;
     Doubles doubles;
@@ -172,7 +171,7 @@ std::string Check(const std::string& file) {
 
 // Merges.
 
-[[noreturn]] void RefuseLine(std::size_t line, const std::string& why) {
+[[noreturn]] void RefuseDataLine(std::size_t line, const std::string& why) {
     throw Failure(Exit::BadInput, "line " + std::to_string(line) + ": " + why);
 }
 
@@ -180,10 +179,10 @@ std::string Check(const std::string& file) {
 std::string Storable(const std::string& utf8, std::size_t line) {
     std::string text = TextFromUtf8(utf8);
     if (Utf8FromText(text) != utf8) {
-        RefuseLine(line, "cutting data can't hold a character of " + utf8);
+        RefuseDataLine(line, "cutting data can't hold a character of " + utf8);
     }
     if (text.find_first_of("\r\n") != std::string::npos) {
-        RefuseLine(line, "cutting data can't hold a line end within a field");
+        RefuseDataLine(line, "cutting data can't hold a line end within a field");
     }
     return text;
 }
@@ -193,11 +192,11 @@ class CsvRow {
 public:
     CsvRow(const std::vector<std::string>& head, std::size_t line) : line_(line) {
         for (std::size_t i = 0; i < head.size(); ++i) {
-            if ((Head.find(head[i] + ",") == std::string_view::npos && head[i] != "text") || head[i].empty()) {
-                RefuseLine(line, head[i] + " is no column of cutting data");
+            if ((ColumnNames.find(head[i] + ",") == std::string_view::npos && head[i] != "text") || head[i].empty()) {
+                RefuseDataLine(line, head[i] + " is no column of cutting data");
             }
             if (!columns_.emplace(head[i], i).second) {
-                RefuseLine(line, head[i] + " stands there more than once");
+                RefuseDataLine(line, head[i] + " stands there more than once");
             }
         }
     }
@@ -206,11 +205,11 @@ public:
     [[nodiscard]] std::string LineOf(const std::vector<std::string>& fields, std::size_t line) {
         line_ = line;
         if (fields.size() != columns_.size()) {
-            RefuseLine(
+            RefuseDataLine(
                 line, std::to_string(fields.size()) + " fields, where the head has " + std::to_string(columns_.size()));
         }
         std::string text = Field(fields, "text");
-        Record record;
+        speedsfeeds::Record record;
         bool filled = !Field(fields, "unit").empty();
         for (const FieldRow& row : Fields) {
             record.*row.Text = Field(fields, row.Name);
@@ -220,7 +219,7 @@ public:
             return text;
         }
         if (!text.empty()) {
-            RefuseLine(line, "there are a record and a text in one line");
+            RefuseDataLine(line, "there are a record and a text in one line");
         }
         return Composed(record, Field(fields, "unit"));
     }
@@ -231,20 +230,20 @@ private:
         return column == columns_.end() ? "" : Storable(fields[column->second], line_);
     }
 
-    [[nodiscard]] std::string Composed(const Record& record, const std::string& unit) const {
+    [[nodiscard]] std::string Composed(const speedsfeeds::Record& record, const std::string& unit) const {
         if (unit != "in" && unit != "mm") {
-            RefuseLine(line_, "the unit must be in or mm, not " + unit);
+            RefuseDataLine(line_, "the unit must be in or mm, not " + unit);
         }
         for (const FieldRow& row : Fields) {
             if (row.Needed && (record.*row.Text).empty()) {
-                RefuseLine(line_, "the " + std::string(row.Spoken) + " is missing");
+                RefuseDataLine(line_, "the " + std::string(row.Spoken) + " is missing");
             }
         }
         std::string line = RecordLine(unit == "in" ? DataUnit::Inch : DataUnit::Metric, record);
-        const Record again = Parse(line).Data;
+        const speedsfeeds::Record again = Parse(line).Data;
         for (const FieldRow& row : Fields) {
             if (again.*row.Text != record.*row.Text) {
-                RefuseLine(line_, "the " + std::string(row.Spoken) + " holds a mark of the file: one of _!@#$%^");
+                RefuseDataLine(line_, "the " + std::string(row.Spoken) + " holds a mark of the file: one of _!@#$%^");
             }
         }
         return line;
@@ -325,7 +324,7 @@ std::string RunData(const Arguments& given, const StandardInput& input) {
             throw Failure(Exit::Usage, std::string(row.Name) + " does not go with --check, --merge or --merge-csv");
         }
     }
-    return given.Has("--check") ? Check(file) : Merge(file, LinesToAdd(given, input));
+    return given.Has("--check") ? CheckedText(file) : Merge(file, LinesToAdd(given, input));
 }
 
 }  // namespace brindlex::cli

@@ -15,34 +15,25 @@
 #include "sineplate/document.h"
 
 #include <algorithm>
-#include <cctype>
 
 namespace brindlex::cli {
 
 namespace {
 
-struct KindRow {
+struct DocumentKind {
     std::string_view Ending;
     std::size_t MostLines;
     Answer (*Solve)(const std::vector<std::string>& lines, const Display& display);
 };
-constexpr KindRow Kinds[] = {{".rgt", righttri::DocumentLines, RightFromDocument},
-                             {".obl", oblique::DocumentLines, ObliqueFromDocument},
-                             {".bcf", boltcircle::DocumentLines, BoltFromDocument},
-                             {".sin", sineplate::DocumentLines, SinePlateFromDocument},
-                             {".pgf", polygon::DocumentLines, PolygonFromDocument}};
+constexpr DocumentKind Kinds[] = {{"rgt", righttri::DocumentLines, RightFromDocument},
+                                  {"obl", oblique::DocumentLines, ObliqueFromDocument},
+                                  {"bcf", boltcircle::DocumentLines, BoltFromDocument},
+                                  {"sin", sineplate::DocumentLines, SinePlateFromDocument},
+                                  {"pgf", polygon::DocumentLines, PolygonFromDocument}};
 
-/// In small letters, with its point.
-std::string EndingOf(const std::string& file) {
-    std::string ending = std::filesystem::path(file).extension().string();
-    std::transform(ending.begin(), ending.end(), ending.begin(),
-                   [](unsigned char c) { return static_cast<char>(std::tolower(c)); });
-    return ending;
-}
-
-const KindRow& KindOf(const std::string& file) {
+const DocumentKind& DocumentKindOf(const std::string& file) {
     const std::string ending = EndingOf(file);
-    for (const KindRow& row : Kinds) {
+    for (const DocumentKind& row : Kinds) {
         if (row.Ending == ending) {
             return row;
         }
@@ -52,7 +43,7 @@ const KindRow& KindOf(const std::string& file) {
 
 /// Throws Failure that names the file.
 Answer AnswerOf(const std::string& file, const Display& display) {
-    const KindRow& kind = KindOf(file);
+    const DocumentKind& kind = DocumentKindOf(file);
     const std::vector<std::string> lines = DocumentOf(file, kind.MostLines);
     try {
         Answer answer = kind.Solve(lines, display);
@@ -65,7 +56,7 @@ Answer AnswerOf(const std::string& file, const Display& display) {
 
 /// Throws Failure that names the file unless it has a result; a drawing's is its report.
 void CheckOne(const std::string& file, const Display& display) {
-    if (EndingOf(file) == ".geo") {
+    if (EndingOf(file) == "geo") {
         static_cast<void>(ReadDrawing(file));
     } else {
         static_cast<void>(AnswerOf(file, display));

@@ -30,17 +30,6 @@ constexpr std::string_view Unprinted = "-";
     throw Failure(Exit::Usage, why);
 }
 
-std::string Lower(std::string text) {
-    std::transform(text.begin(), text.end(), text.begin(),
-                   [](char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; });
-    return text;
-}
-
-std::string EndingOf(const std::string& file) {
-    const std::string ending = Lower(fs::path(file).extension().string());
-    return ending.empty() ? ending : ending.substr(1);
-}
-
 std::optional<double> LengthOption(const Arguments& given, std::string_view option, Unit unit) {
     return given.Has(option) ? std::optional(Val(LengthFrom(given, option, unit, Sign::Any))) : std::nullopt;
 }
@@ -56,7 +45,7 @@ void RequireForDrilling(const Arguments& given, std::string_view option) {
     }
 }
 
-std::optional<Unit> UnitOption(const Arguments& given) {
+std::optional<Unit> GivenUnit(const Arguments& given) {
     return given.Has("--unit") ? std::optional(DisplayFrom(given).Measure) : std::nullopt;
 }
 
@@ -159,7 +148,7 @@ std::string PatternAsNc(const Source& source, const Arguments& given) {
     drilling.Spindle = CountFrom(given, "--spindle", 1, FastestSpindle);
     drilling.Peck = LengthOption(given, "--peck", unit);
     drilling.Tool = CountOption(given, "--tool", MostTool);
-    drilling.Places = CountOption(given, "--places", MostPlaces);
+    drilling.Places = CountOption(given, "--places", MostNcPlaces);
     return NcText(PatternOf(source.Lines), unit, drilling, fs::path(source.Name).filename().string());
 }
 
@@ -185,7 +174,7 @@ constexpr FormatRow Formats[] = {
     {Document::BoltCircle, "nc", PatternAsNc,
      "--depth --retract --safe-height --feed --spindle --peck --tool --places"},
 };
-constexpr std::string_view OptionsOfAll = "--unit --force --as";
+constexpr std::string_view OptionsOfAllFormats = "--unit --force --as";
 
 /// Whether a list of words separated by blanks holds a word.
 bool Holds(std::string_view list, std::string_view word) {
@@ -221,7 +210,7 @@ const FormatRow& FormatOf(Document document, const std::string& ending) {
 
 void RefuseStrayOptions(const FormatRow& format, const Arguments& given) {
     for (const OptionRow& row : ExportOptions) {
-        if (given.Has(row.Name) && !Holds(OptionsOfAll, row.Name) && !Holds(format.Options, row.Name)) {
+        if (given.Has(row.Name) && !Holds(OptionsOfAllFormats, row.Name) && !Holds(format.Options, row.Name)) {
             RefuseUsage(std::string(row.Name) + " has no meaning for this ." + std::string(format.Ending));
         }
     }
@@ -262,7 +251,7 @@ std::string RunExport(const Arguments& given, const StandardInput&) {
     const Document document = DocumentOf(file);
     const FormatRow& format = FormatOf(document, as ? Lower(std::string(*as)) : EndingOf(out));
     RefuseStrayOptions(format, given);
-    const auto unit = UnitOption(given);
+    const auto unit = GivenUnit(given);
     const Source source{file, LinesOf(file), unit};
     if (document == Document::Drawing) {
         RefuseUnlessDrawing(file, source.Lines);

@@ -35,7 +35,7 @@ double Written(double value, int places) {
 }
 
 /// Values as written, so that one that rounds to 0 is refused as 0.
-void Check(const Drilling& d, int places) {
+void CheckDrilling(const Drilling& d, int places) {
     const double depth = Written(d.Depth, places);
     const double retract = Written(d.Retract, places);
     const double safe = Written(d.SafeHeight, places);
@@ -55,9 +55,9 @@ void Check(const Drilling& d, int places) {
     }
 }
 
-class Program {
+class NcProgram {
 public:
-    Program(const HolePattern& pattern, Unit unit, const Drilling& drilling, int places)
+    NcProgram(const HolePattern& pattern, Unit unit, const Drilling& drilling, int places)
         : pattern_(pattern), unit_(unit), drilling_(drilling), places_(places) {}
 
     [[nodiscard]] std::string Write(const std::string& source);
@@ -82,7 +82,7 @@ private:
     std::string text_;
 };
 
-void Program::Line(std::initializer_list<std::string_view> words) {
+void NcProgram::Line(std::initializer_list<std::string_view> words) {
     bool first = true;
     for (const std::string_view word : words) {
         text_ += first ? "" : " ";
@@ -92,7 +92,7 @@ void Program::Line(std::initializer_list<std::string_view> words) {
     text_ += '\n';
 }
 
-void Program::Comments(std::initializer_list<std::string> parts) {
+void NcProgram::Comments(std::initializer_list<std::string> parts) {
     constexpr std::string_view Comma = ", ";
     std::string line;
     for (const std::string& part : parts) {
@@ -105,7 +105,7 @@ void Program::Comments(std::initializer_list<std::string> parts) {
     Comment(line);
 }
 
-void Program::Head(const std::string& source) {
+void NcProgram::Head(const std::string& source) {
     const Drilling& d = drilling_;
     Comment("Brindlex: " + std::to_string(pattern_.Holes.size()) + " holes on a bolt circle, from " + source);
     Comment("Check this program before it is run on a machine");
@@ -118,7 +118,7 @@ void Program::Head(const std::string& source) {
 
 /// G17 the plane of X and Y, G40 no cutter compensation, G80 no cycle left over, G90 absolute, G94 feed a minute. The
 /// length offset stays as the operator has set it, unless the program changes the tool.
-void Program::Start() {
+void NcProgram::Start() {
     Line({unit_ == Unit::Inch ? "G20" : "G21", "G17", "G40", "G80", "G90", "G94"});
     if (drilling_.Tool) {
         const std::string number = std::to_string(*drilling_.Tool);
@@ -130,7 +130,7 @@ void Program::Start() {
 }
 
 /// G98: back to the safe height after each hole, and not only to where the feed begins.
-void Program::Drill() {
+void NcProgram::Drill() {
     const Position first = pattern_.Holes.front().Place;
     Line({"G0", Word("X", first.X), Word("Y", first.Y)});
     const bool pecks = drilling_.Peck.has_value();
@@ -148,7 +148,7 @@ void Program::Drill() {
     Line({"G80"});
 }
 
-std::string Program::Write(const std::string& source) {
+std::string NcProgram::Write(const std::string& source) {
     Head(source);
     Start();
     Drill();
@@ -166,8 +166,8 @@ int DefaultPlaces(Unit unit) {
 
 std::string NcText(const HolePattern& pattern, Unit unit, const Drilling& drilling, const std::string& source) {
     const int places = drilling.Places.value_or(DefaultPlaces(unit));
-    Require(places >= 1 && places <= MostPlaces, "--places must be 1 to 6 for a drilling program", places);
-    Check(drilling, places);
+    Require(places >= 1 && places <= MostNcPlaces, "--places must be 1 to 6 for a drilling program", places);
+    CheckDrilling(drilling, places);
     if (pattern.Holes.empty()) {
         throw Failure(Exit::BadInput, "there are no holes");
     }
@@ -176,7 +176,7 @@ std::string NcText(const HolePattern& pattern, Unit unit, const Drilling& drilli
             throw Failure(Exit::BadInput, "hole " + std::to_string(hole.Number) + " is too far away for a machine");
         }
     }
-    return Program(pattern, unit, drilling, places).Write(source);
+    return NcProgram(pattern, unit, drilling, places).Write(source);
 }
 
 std::string CommentText(const std::string& text) {

@@ -11,7 +11,7 @@ namespace brindlex::cli {
 
 inline constexpr int FastestSpindle = 999999;
 inline constexpr int MostTool = 9999;
-inline constexpr int MostPlaces = 6;
+inline constexpr int MostNcPlaces = 6;
 
 /// What a program needs besides the places of the holes. None has a default: a wrong guess could break the tool.
 struct Drilling {
@@ -22,7 +22,7 @@ struct Drilling {
     int Spindle = 0;             ///< revolutions a minute, 1 to FastestSpindle
     std::optional<double> Peck;  ///< how far the tool goes before it backs out, above 0; without it one plunge
     std::optional<int> Tool;     ///< with it the program changes to that tool and takes its length, 1 to MostTool
-    std::optional<int> Places;   ///< decimals, 1 to MostPlaces; else DefaultPlaces
+    std::optional<int> Places;   ///< decimals, 1 to MostNcPlaces; else DefaultPlaces
 };
 
 /// 4 decimals of a millimetre, 6 of an inch: no coordinate is off by more than 0.00005 mm.

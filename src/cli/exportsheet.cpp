@@ -10,6 +10,7 @@
 #include "frame/shared.h"
 #include "frame/textfile.h"
 #include "geometry/crossings.h"
+#include "services/degrees.h"
 
 #include <array>
 #include <cmath>
@@ -27,7 +28,6 @@ using geometry::Unit;
 
 namespace {
 
-constexpr double FullTurn = 360;
 constexpr double HalfTurn = 180;
 /// A million degrees still are known to a ten millionth of a second; far beyond, a double does not tell a direction.
 constexpr double LargestAngle = 1e6;
@@ -84,7 +84,7 @@ double AngleBetween(const Segment& a, const Segment& b) {
     return std::atan2(std::fabs(ax * by - ay * bx), std::fabs(ax * bx + ay * by)) * HalfTurn / std::numbers::pi;
 }
 
-[[noreturn]] void Refuse(const std::string& why) {
+[[noreturn]] void RefuseSheet(const std::string& why) {
     throw Failure(Exit::BadInput, why);
 }
 
@@ -105,8 +105,8 @@ boltcircle::Entries EntriesOf(const std::vector<std::string>& lines) {
     }
     for (std::size_t i = 0; i < texts.size(); ++i) {
         if (!WholeNumberText(*texts[i])) {
-            Refuse(std::string(EntryNames[i]) +
-                   (texts[i]->empty() ? " is missing" : " is no number: " + Utf8FromText(*texts[i])));
+            RefuseSheet(std::string(EntryNames[i]) +
+                        (texts[i]->empty() ? " is missing" : " is no number: " + Utf8FromText(*texts[i])));
         }
     }
     return entries;
@@ -115,19 +115,19 @@ boltcircle::Entries EntriesOf(const std::vector<std::string>& lines) {
 void CheckEntries(const boltcircle::Entries& entries) {
     const double holes = *WholeNumberText(entries.Holes);
     if (!(*WholeNumberText(entries.Diameter) > 0)) {
-        Refuse("the diameter is not above 0: " + entries.Diameter);
+        RefuseSheet("the diameter is not above 0: " + entries.Diameter);
     }
     if (!(holes > 0)) {
-        Refuse("there are no holes: " + entries.Holes);
+        RefuseSheet("there are no holes: " + entries.Holes);
     }
     if (holes != std::floor(holes)) {
-        Refuse("the number of holes is no whole number: " + entries.Holes);
+        RefuseSheet("the number of holes is no whole number: " + entries.Holes);
     }
     if (!(std::fabs(*WholeNumberText(entries.StartAngle)) <= LargestAngle)) {
-        Refuse("the start angle is too large: " + entries.StartAngle);
+        RefuseSheet("the start angle is too large: " + entries.StartAngle);
     }
     if (holes > boltcircle::MostHoles) {
-        Refuse("there are more than " + std::to_string(boltcircle::MostHoles) + " holes: " + entries.Holes);
+        RefuseSheet("there are more than " + std::to_string(boltcircle::MostHoles) + " holes: " + entries.Holes);
     }
 }
 
@@ -151,12 +151,12 @@ Sheet SheetOf(const std::vector<std::string>& records, Unit unit) {
         }
         const int number = FullNumberOf(line);
         if (record.Shape == Kind::Circle && !(record.Diameter() > 0)) {
-            Refuse("circle " + std::to_string(number) + " has no diameter");
+            RefuseSheet("circle " + std::to_string(number) + " has no diameter");
         }
         sheet.Shapes.push_back({LayerOf(record.Shape), number, record});
     }
     if (sheet.Shapes.empty()) {
-        Refuse("the drawing is empty");
+        RefuseSheet("the drawing is empty");
     }
     return sheet;
 }
@@ -190,7 +190,7 @@ HolePattern PatternOf(const std::vector<std::string>& lines) {
     WorkOutPi(shared);
     boltcircle::Pattern solved;
     if (!Guarded([&] { solved = boltcircle::SolveBoltCircle(entries, ".0000", shared.Rad); })) {
-        Refuse("a value is too large to be worked with");
+        RefuseSheet("a value is too large to be worked with");
     }
     HolePattern pattern{{solved.CenterX, solved.CenterY}, solved.Diameter, solved.StartAngle, {}};
     const boltcircle::Hole first = boltcircle::FirstHole(solved);

@@ -3,6 +3,7 @@
 
 #include "cli/exportnumbers.h"
 #include "cli/values.h"
+#include "services/units.h"
 
 #include <algorithm>
 #include <cmath>
@@ -20,7 +21,6 @@ using geometry::Record;
 using geometry::Unit;
 
 // Sizes on the paper, in millimetres.
-constexpr double MillimetersPerInch = 25.4;
 constexpr double Margin = 10;
 constexpr double LineWeight = 0.25;
 constexpr double CrossArm = 1.5;

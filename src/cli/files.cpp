@@ -2,6 +2,7 @@
 #include "cli/files.h"
 
 #include "cli/failure.h"
+#include "cli/values.h"
 #include "frame/rewrite.h"
 #include "frame/textfile.h"
 #include "services/settings.h"
@@ -22,6 +23,11 @@ auto ReadOf(const std::filesystem::path& file, Read&& read) {
 }
 
 }  // namespace
+
+std::string EndingOf(const std::filesystem::path& file) {
+    const std::string ending = Lower(file.extension().string());
+    return ending.empty() ? ending : ending.substr(1);
+}
 
 std::vector<std::string> LinesOf(const std::filesystem::path& file) {
     return ReadOf(file, [](InputFile open) { return open.AllLines(); });

@@ -9,6 +9,9 @@
 
 namespace brindlex::cli {
 
+/// The ending of its name in small letters, without the point.
+[[nodiscard]] std::string EndingOf(const std::filesystem::path& file);
+
 /// The lines of a file. Throws Failure (Disk).
 [[nodiscard]] std::vector<std::string> LinesOf(const std::filesystem::path& file);
 

@@ -6,15 +6,13 @@
 #include "polygon/solver.h"
 #include "services/degrees.h"
 #include "services/rounding.h"
+#include "services/units.h"
 #include "sineplate/document.h"
 #include "sineplate/solver.h"
 
 namespace brindlex::cli {
 
 namespace {
-
-constexpr double MillimetersPerInch = 25.4;
-constexpr std::string_view AreaMask = ".00000";
 
 std::string MaskFor(const Display& display, SharedState& shared) {
     return RoundingMask(std::to_string(display.Places), shared);

@@ -162,12 +162,6 @@ void CheckSections(const Arguments& given, const Setup& setup) {
     }
 }
 
-std::string OnOneLine(std::string text) {
-    std::replace(text.begin(), text.end(), '\r', ' ');
-    text.erase(std::remove(text.begin(), text.end(), '\n'), text.end());
-    return text;
-}
-
 std::string_view FeedRateUnit(const Setup& setup) {
     if (setup.Metric()) {
         return "m/min";

@@ -12,8 +12,6 @@ namespace brindlex::cli {
 
 namespace {
 
-constexpr std::string_view AreaMask = ".00000";
-
 /// An element of a triangle: its option, its name in an answer, and how the solver's labels call it.
 struct ElementRow {
     std::string_view Option;
@@ -129,11 +127,6 @@ const oblique::Case& ObliqueCase(const Arguments& given) {
         }
     }
     throw Failure(Exit::Usage, "three angles are no triangle: a side is missing");
-}
-
-std::string OnOneLine(std::string text) {
-    std::replace(text.begin(), text.end(), '\r', ' ');
-    return text;
 }
 
 using ObliqueEntries = std::array<std::string, ObliqueKnown>;

@@ -17,7 +17,6 @@ namespace {
 constexpr int LeastPlaces = 1;
 constexpr int MostPlaces = 15;
 constexpr int MostDegrees = 32767;
-constexpr double PerWhole = 60;
 
 [[noreturn]] void Refuse(std::string_view option, std::string_view text, std::string_view why) {
     throw Failure(Exit::Usage, std::string(option).append(" ").append(text).append(": ").append(why));
@@ -276,6 +275,18 @@ std::string_view OnlyOneOf(const Arguments& given, std::span<const std::string_v
 
 bool IsNumber(std::string_view text) {
     return !text.empty() && NumberLength(text) == text.size();
+}
+
+std::string Lower(std::string text) {
+    std::transform(text.begin(), text.end(), text.begin(),
+                   [](char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; });
+    return text;
+}
+
+std::string OnOneLine(std::string text) {
+    std::replace(text.begin(), text.end(), '\r', ' ');
+    text.erase(std::remove(text.begin(), text.end(), '\n'), text.end());
+    return text;
 }
 
 std::string Trimmed(std::string_view text) {

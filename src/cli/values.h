@@ -20,6 +20,9 @@ using geometry::Unit;
 /// Their squares.
 [[nodiscard]] std::string_view SquareWordOf(Unit unit);
 
+/// Areas have five decimals, as on the forms.
+inline constexpr std::string_view AreaMask = ".00000";
+
 /// How an answer is to be shown.
 struct Display {
     Unit Measure = Unit::Inch;
@@ -52,6 +55,11 @@ void Require(const Arguments& given, std::string_view option);
 
 /// Whether a text is a decimal number with nothing before or behind it.
 [[nodiscard]] bool IsNumber(std::string_view text);
+
+/// With small ASCII letters for the capital ones.
+[[nodiscard]] std::string Lower(std::string text);
+/// A message of several lines as one.
+[[nodiscard]] std::string OnOneLine(std::string text);
 
 /// A number of the solvers without the blank in front.
 [[nodiscard]] std::string Trimmed(std::string_view text);

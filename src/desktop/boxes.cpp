@@ -28,13 +28,13 @@ constexpr IconOf Icons[] = {{style::Plain, QMessageBox::NoIcon},
                             {style::Exclamation, QMessageBox::Warning},
                             {style::Information, QMessageBox::Information}};
 
-struct ButtonsOf {
+struct StyleButtons {
     int style;
     QMessageBox::StandardButtons buttons;
 };
-constexpr ButtonsOf Buttons[] = {{style::Plain, QMessageBox::Ok},
-                                 {style::OkCancel, QMessageBox::Ok | QMessageBox::Cancel},
-                                 {style::YesNo, QMessageBox::Yes | QMessageBox::No}};
+constexpr StyleButtons Buttons[] = {{style::Plain, QMessageBox::Ok},
+                                    {style::OkCancel, QMessageBox::Ok | QMessageBox::Cancel},
+                                    {style::YesNo, QMessageBox::Yes | QMessageBox::No}};
 
 struct ButtonOfAnswer {
     Answer answer;
@@ -60,7 +60,7 @@ void Furnish(QMessageBox& shown, const MessageBox& box) {
             shown.setIcon(row.icon);
         }
     }
-    for (const ButtonsOf& row : Buttons) {
+    for (const StyleButtons& row : Buttons) {
         if (row.style == (box.Style & ButtonBits)) {
             shown.setStandardButtons(row.buttons);
         }

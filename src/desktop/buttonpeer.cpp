@@ -16,7 +16,7 @@ namespace brindlex {
 namespace {
 
 template <class Widget>
-QAbstractButton* MakeWidget(FormWindow& window, Button& button) {
+QAbstractButton* MakeButton(FormWindow& window, Button& button) {
     return new PressWidget<Widget>(window.Inside(button.Container()), window, button);
 }
 
@@ -76,7 +76,7 @@ std::optional<PropertyValue> ButtonPeer::Seen(std::string_view property) const {
 }
 
 CommandButtonPeer::CommandButtonPeer(FormWindow& window, CommandButton& button)
-    : ButtonPeer(window, button, MakeWidget<QPushButton>(window, button)),
+    : ButtonPeer(window, button, MakeButton<QPushButton>(window, button)),
       button_(button),
       push_(static_cast<QPushButton*>(Widget())) {
     push_->setAutoDefault(false);
@@ -90,7 +90,7 @@ void CommandButtonPeer::MirrorOwn(Aspect aspect) {
 }
 
 CheckBoxPeer::CheckBoxPeer(FormWindow& window, CheckBox& box)
-    : ButtonPeer(window, box, MakeWidget<QCheckBox>(window, box)),
+    : ButtonPeer(window, box, MakeButton<QCheckBox>(window, box)),
       box_(box),
       check_(static_cast<QCheckBox*>(Widget())) {
 }
@@ -110,7 +110,7 @@ std::optional<PropertyValue> CheckBoxPeer::Seen(std::string_view property) const
 }
 
 OptionButtonPeer::OptionButtonPeer(FormWindow& window, OptionButton& option)
-    : ButtonPeer(window, option, MakeWidget<QRadioButton>(window, option)),
+    : ButtonPeer(window, option, MakeButton<QRadioButton>(window, option)),
       option_(option),
       radio_(static_cast<QRadioButton*>(Widget())) {
     radio_->setAutoExclusive(false);

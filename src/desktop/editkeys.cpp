@@ -19,11 +19,11 @@ constexpr int PasteKey = 22;
 constexpr int CutKey = 24;
 constexpr int UndoKey = 26;
 
-struct NamedKey {
+struct EditKey {
     int key;
     int keyAscii;
 };
-constexpr NamedKey NamedKeys[] = {
+constexpr EditKey EditKeys[] = {
     {Qt::Key_Backspace, 8}, {Qt::Key_Return, 13}, {Qt::Key_Enter, 13}, {Qt::Key_Escape, 27}};
 
 // The platform's own keys for what control keys do, whatever they are there.
@@ -51,7 +51,7 @@ bool WithControl(const QKeyEvent& event) {
 
 // The code of a key that has one by itself; 0 for any other.
 int CodeOf(const QKeyEvent& event) {
-    for (const NamedKey& named : NamedKeys) {
+    for (const EditKey& named : EditKeys) {
         if (named.key == event.key()) {
             return named.keyAscii;
         }

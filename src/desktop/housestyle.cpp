@@ -20,7 +20,7 @@ constexpr double RingRounding = 2.5;
 constexpr int ButtonInset = 2;
 
 constexpr int CaptionGap = 3;
-constexpr int Lightest = 255;
+constexpr int FullLight = 255;
 // How much of the words' colour an outline has, the rest being that of the ground: three to one in contrast, as the Web
 // Content Accessibility Guidelines ask for what shows where a control is. The base has two to one, and less when dark.
 constexpr double OutlineStrength = 0.45;
@@ -45,7 +45,7 @@ QRect CaptionRect(const QStyleOption& option, const QStyle& style, const QWidget
 // So much of the colour of plain words, and for the rest that of the ground.
 QColor Towards(const QPalette& palette, double share) {
     const QColor ground = palette.color(QPalette::Active, QPalette::Window);
-    const int words = IsDark(palette) ? Lightest : 0;
+    const int words = IsDark(palette) ? FullLight : 0;
     const auto mixed = [share, words](int from) { return from + static_cast<int>((words - from) * share); };
     return {mixed(ground.red()), mixed(ground.green()), mixed(ground.blue())};
 }

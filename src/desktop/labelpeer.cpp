@@ -16,7 +16,7 @@ namespace {
 // In the order of Label::Alignment.
 constexpr Qt::AlignmentFlag Alignments[] = {Qt::AlignLeft, Qt::AlignRight, Qt::AlignHCenter};
 
-QLabel* MakeWidget(FormWindow& window, Label& label) {
+QLabel* MakeLabel(FormWindow& window, Label& label) {
     QWidget* const inside = window.Inside(label.Container());
     if (!label.Click.IsBound()) {
         return new QLabel(inside);
@@ -47,7 +47,7 @@ bool LiesOnPicture(const Label& label) {
 }  // namespace
 
 LabelPeer::LabelPeer(FormWindow& window, Label& label)
-    : Peer(window, label, MakeWidget(window, label)), label_(label), text_(static_cast<QLabel*>(Widget())) {
+    : Peer(window, label, MakeLabel(window, label)), label_(label), text_(static_cast<QLabel*>(Widget())) {
     text_->setTextFormat(Qt::PlainText);
     text_->setAlignment(Alignments[static_cast<std::size_t>(label.Align())] |
                         (label.Click.IsBound() ? Qt::AlignVCenter : Qt::AlignTop));

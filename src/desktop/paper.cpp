@@ -109,7 +109,7 @@ private:
     double covered_ = 0;  // by pictures, from the top
 };
 
-bool Paint(const PrintedDocument& document, QPagedPaintDevice& device) {
+bool PaintPages(const PrintedDocument& document, QPagedPaintDevice& device) {
     if (document.Pages.empty()) {
         return true;
     }
@@ -164,7 +164,7 @@ Size Paper::Printable(PaperOrientation orientation) {
 
 void Paper::Print(const PrintedDocument& document) {
     QPrinter& printer = Chosen();
-    if (!Paint(document, printer) || printer.printerState() == QPrinter::Error) {
+    if (!PaintPages(document, printer) || printer.printerState() == QPrinter::Error) {
         const std::string name = ToText(printer.printerName());
         throw Fault(FaultNumber::FileIo, name.empty() ? "The document could not be printed"
                                                       : "The document could not be printed on " + name);
@@ -181,7 +181,7 @@ bool WritePdf(const PrintedDocument& document, const QString& path) {
     writer.setPageLayout(QPageLayout(QPageSize(QPageSize::Letter), QPageLayout::Portrait,
                                      QMarginsF(QuarterInch, QuarterInch, QuarterInch, QuarterInch),
                                      QPageLayout::Point));
-    return Paint(document, writer);
+    return PaintPages(document, writer);
 }
 
 }  // namespace brindlex

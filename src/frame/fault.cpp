@@ -12,7 +12,7 @@ struct Words {
     const char* text;
 };
 
-constexpr std::array Table{
+constexpr std::array Descriptions{
     Words{FaultNumber::BadArgument, "Invalid procedure call or argument"},
     Words{FaultNumber::Overflow, "Overflow"},
     Words{FaultNumber::OutOfMemory, "Out of memory"},
@@ -32,7 +32,7 @@ Fault::Fault(FaultNumber number, const std::string& description) : std::runtime_
 }
 
 std::string FaultDescription(FaultNumber number) {
-    for (const Words& words : Table) {
+    for (const Words& words : Descriptions) {
         if (words.number == number) {
             return words.text;
         }

@@ -24,13 +24,13 @@ constexpr std::size_t ZoneWidth = 14;
 
 /// Windows-1252 from code 128 to 159; the codes around these are Latin-1. The five codes that the code page leaves
 /// open stand for the code points of the same number, so that every byte comes back as it went.
-constexpr char32_t TableStart = 0x80;
-constexpr std::array<char32_t, 32> Table{
+constexpr char32_t UpperStart = 0x80;
+constexpr std::array<char32_t, 32> UpperCodes{
     0x20AC, 0x0081, 0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021, 0x02C6, 0x2030, 0x0160,
     0x2039, 0x0152, 0x008D, 0x017D, 0x008F, 0x0090, 0x2018, 0x2019, 0x201C, 0x201D, 0x2022,
     0x2013, 0x2014, 0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0x009D, 0x017E, 0x0178,
 };
-constexpr char32_t TableEnd = TableStart + Table.size();
+constexpr char32_t UpperEnd = UpperStart + UpperCodes.size();
 
 void AppendUtf8(std::string& utf8, char32_t point) {
     const auto trail = [](char32_t bits) { return static_cast<char>(0x80U | (bits & 0x3FU)); };
@@ -85,14 +85,15 @@ char32_t TakeUtf8(std::string_view& utf8) {
 }
 
 char TextCharacter(char32_t point) {
-    if (point < TableStart || (point >= TableEnd && point <= 0xFF)) {
+    if (point < UpperStart || (point >= UpperEnd && point <= 0xFF)) {
         return static_cast<char>(static_cast<unsigned char>(point));
     }
-    const auto* const found = std::find(Table.begin(), Table.end(), point);
-    if (found == Table.end()) {
+    const auto* const found = std::find(UpperCodes.begin(), UpperCodes.end(), point);
+    if (found == UpperCodes.end()) {
         return '?';
     }
-    return static_cast<char>(static_cast<unsigned char>(TableStart + static_cast<char32_t>(found - Table.begin())));
+    return static_cast<char>(
+        static_cast<unsigned char>(UpperStart + static_cast<char32_t>(found - UpperCodes.begin())));
 }
 
 /// The fault behind a stream that has failed since errno was last set to 0.
@@ -125,7 +126,7 @@ std::string Utf8FromText(std::string_view text) {
     utf8.reserve(text.size());
     for (const char c : text) {
         const char32_t code = static_cast<unsigned char>(c);
-        AppendUtf8(utf8, code >= TableStart && code < TableEnd ? Table[code - TableStart] : code);
+        AppendUtf8(utf8, code >= UpperStart && code < UpperEnd ? UpperCodes[code - UpperStart] : code);
     }
     return utf8;
 }

@@ -13,8 +13,6 @@ namespace brindlex::geometry {
 
 namespace {
 
-constexpr std::size_t SideBoxes = 3;
-
 /// Of each box of a side: its own kind, and the kinds that its number may turn out to be, in the order of the search.
 struct KindSearch {
     Kind Own;

@@ -14,6 +14,9 @@
 
 namespace brindlex::geometry {
 
+/// Of one side: circle, line, point.
+inline constexpr std::size_t SideBoxes = 3;
+
 class ConnectPanel : public Frame {
 public:
     ConnectPanel(ControlContainer& form, Session& work);

@@ -12,8 +12,6 @@ namespace brindlex::geometry {
 
 namespace {
 
-constexpr std::size_t SideBoxes = 3;
-
 /// The place of a kind among the options and boxes of a side.
 std::size_t IndexOf(Kind kind) {
     return kind == Kind::Circle ? 0 : (kind == Kind::Line ? 1 : 2);

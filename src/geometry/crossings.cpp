@@ -14,12 +14,12 @@ namespace brindlex::geometry {
 
 namespace {
 
-constexpr int NumberCharacters = 3;
+constexpr int SliceCharacters = 3;
 /// A board has 14 lines. A file made elsewhere may hold more, and one of any length must not stall the program.
 constexpr std::size_t MostRecords = 200;
 
 /// The working numbers of a run. Line B runs from 1 to 2, line A from 3 to 4.
-struct Working {
+struct CrossingNumbers {
     Checked x1, y1, x2, y2, x3, y3, x4, y4;
     Checked n1;  ///< dividend of the parameter along line B
     Checked d;   ///< divisor of both parameters; 0 for parallel lines
@@ -43,7 +43,7 @@ private:
     void Solve(const std::string& lineA, const std::string& lineB);
     [[nodiscard]] std::string Item(const std::string& lineA, const std::string& lineB) const;
 
-    Working w_;
+    CrossingNumbers w_;
     Checked t_, x_, y_;
     bool flag_ = false;  // not reset from pair to pair: intended
     Crossings lists_;
@@ -57,7 +57,7 @@ void Finder::ReadEnds(const std::string& lineA, const std::string& lineB) {
 
 /// The usual crossing of two lines by their parameters; both in 0 to 1 where the pieces themselves cross.
 void Finder::Solve(const std::string& lineA, const std::string& lineB) {
-    Working& w = w_;
+    CrossingNumbers& w = w_;
     Step(w.ua, [&] { return Checked(Round((w.n1 / w.d).Value(), RatioDecimals)); });
     Step(w.ub, [&] {
         const Checked dividend = (w.y1 - w.y3) * (w.x2 - w.x1) - (w.x1 - w.x3) * (w.y2 - w.y1);
@@ -74,12 +74,12 @@ void Finder::Solve(const std::string& lineA, const std::string& lineB) {
 
 std::string Finder::Item(const std::string& lineA, const std::string& lineB) const {
     constexpr int Gap = 15;
-    return Left(lineA, NumberCharacters) + " , " + Left(lineB, NumberCharacters) + Space(Gap) + "/" + Str(x_.Value()) +
+    return Left(lineA, SliceCharacters) + " , " + Left(lineB, SliceCharacters) + Space(Gap) + "/" + Str(x_.Value()) +
            "\\" + Str(y_.Value());
 }
 
 void Finder::Visit(const std::string& lineA, const std::string& lineB) {
-    Working& w = w_;
+    CrossingNumbers& w = w_;
     w = {};  // a parallel pair finds parameters of 0, which pass as in range, so that it is never listed
     if (NumberOf(lineA) != NumberOf(lineB)) {
         ReadEnds(lineA, lineB);

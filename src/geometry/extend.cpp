@@ -12,10 +12,10 @@ namespace brindlex::geometry {
 
 namespace {
 
-constexpr int NumberCharacters = 5;
+constexpr int NumberColumns = 5;
 
 int LineNumber(std::string_view record) {
-    return IntegerOf(record.substr(0, NumberCharacters));
+    return IntegerOf(record.substr(0, NumberColumns));
 }
 
 struct Pair {

@@ -120,7 +120,7 @@ void Form17::Form_Load() {
 
 void Form17::LoadBars() {
     constexpr double FarAway = 1000;
-    constexpr int DashDotDot = 4;
+    constexpr int CrossStyle = 4;
     for (ScrollBar* const bar : {&VScroll1, &HScroll1}) {
         bar->LargeChange(20);
         bar->SmallChange(1);
@@ -132,7 +132,7 @@ void Form17::LoadBars() {
     HScroll1.Max(20);
     Work.FirstView(Unit::Inch);
     Picture1.AutoRedraw(true);
-    Picture1.DrawStyle(DashDotDot);
+    Picture1.DrawStyle(CrossStyle);
     const double middleX = Picture1.ScaleWidth() / 2;
     const double middleY = Picture1.ScaleHeight() / 2;
     Picture1.Line(middleX, -FarAway, middleX, FarAway, ink::Cross);

@@ -100,13 +100,13 @@ void Form18::Command2_Click() {
 }
 
 void Form18::PrintReport() {
-    constexpr int HeadingColumn = 25;
-    constexpr double HeadingPoints = 18;
+    constexpr int ReportColumn = 25;
+    constexpr double ReportHeadingPoints = 18;
     constexpr double TextPoints = 10;
     PrinterObject& printer = Owner().Printer();
-    printer.Font({"Times New Roman", HeadingPoints, true});
+    printer.Font({"Times New Roman", ReportHeadingPoints, true});
     printer.Print();
-    printer.PrintAtTab(HeadingColumn, "Brindlex Geometry Report");
+    printer.PrintAtTab(ReportColumn, "Brindlex Geometry Report");
     printer.FontSize(TextPoints);
     printer.Print();
     printer.Print();

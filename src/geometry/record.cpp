@@ -12,8 +12,6 @@ namespace brindlex::geometry {
 
 namespace {
 
-/// Kind words are looked for from here on.
-constexpr int KindColumn = 14;
 constexpr std::array KindOrder{Kind::Circle, Kind::Line, Kind::Point};
 constexpr std::string_view Tangent = "Tangent";
 

@@ -24,6 +24,9 @@ struct Segment {
     Position End;
 };
 
+/// Kind words are looked for from this column on.
+inline constexpr int KindColumn = 14;
+
 // Reading. Any line at all is read without a fault: what is no number, or beyond the range of one, reads as 0.
 
 /// Val of a text; 0 where it is beyond the range of a double.

@@ -19,8 +19,7 @@ constexpr std::string_view LineEnd = "\r\n";
 constexpr std::string_view BlockEnd = "\r\n\r\n";
 constexpr std::string_view Indent = "          ";
 constexpr std::string_view DeepIndent = "                     ";
-constexpr int KindColumn = 14;
-constexpr std::size_t NumberCharacters = 3;
+constexpr std::size_t PartnerCharacters = 3;
 
 /// A text from a column on, counted from 1.
 std::string_view From(std::string_view text, std::size_t column, std::size_t length = std::string_view::npos) {
@@ -77,7 +76,7 @@ PartnerNumbers PartnersOfLine(std::string_view line) {
     }
     constexpr std::size_t Word = 7;
     const auto tangent = static_cast<std::size_t>(InStr(line, "Tangent", KindColumn));
-    return {ValueOf(From(line, tangent + Word, Word)), ValueOf(line.substr(line.size() - NumberCharacters))};
+    return {ValueOf(From(line, tangent + Word, Word)), ValueOf(line.substr(line.size() - PartnerCharacters))};
 }
 
 std::string CirclePartner(const Kinds& kinds, double number, const std::string& x, const std::string& y) {

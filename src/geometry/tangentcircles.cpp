@@ -17,12 +17,12 @@ struct Place {
 };
 
 /// One sign for each coordinate.
-struct Signs {
+struct AxisSigns {
     double X;
     double Y;
 };
 
-void Put(Place& place, const Place& from, Signs signs, Checked x, Checked y) {
+void Put(Place& place, const Place& from, AxisSigns signs, Checked x, Checked y) {
     Step(place.X, [&] { return from.X + x * signs.X; });
     Step(place.Y, [&] { return from.Y + y * signs.Y; });
 }
@@ -58,7 +58,7 @@ struct Points {
 };
 
 /// The working numbers of a run.
-struct Working {
+struct TangentNumbers {
     Place Crossing;
     Checked R, Rad;
     Slope A, B;
@@ -72,7 +72,7 @@ struct Working {
 };
 
 /// The only equality test on angles: to ten decimals.
-bool LeanAlike(const Working& w) {
+bool LeanAlike(const TangentNumbers& w) {
     constexpr std::string_view Mask = ".0000000000";
     const auto isZero = [&](Checked whole, Checked one, Checked other) {
         return ValueOf(Format((Abs(whole / 2.0) - Abs((one + other) / 2.0)).Value(), Mask)) == 0;
@@ -82,7 +82,7 @@ bool LeanAlike(const Working& w) {
     return alike;
 }
 
-void FindSectors(Working& w) {
+void FindSectors(TangentNumbers& w) {
     Step(w.P, [&] { return Abs(w.A.Psi) + Abs(w.B.Psi); });
     Step(w.Q, [&] { return Abs(w.A.Phi) + Abs(w.B.Phi); });
     w.Sense = LeanAlike(w);
@@ -92,7 +92,7 @@ void FindSectors(Working& w) {
     }
 }
 
-void FindOffsets(Working& w) {
+void FindOffsets(TangentNumbers& w) {
     const Checked h = w.Q / 2.0;
     const Checked k = w.P / 2.0;
     Checked dh;
@@ -108,7 +108,7 @@ void FindOffsets(Working& w) {
     Step(w.B2, [&] { return dk * Sin(w.N * w.Rad); });
 }
 
-void FindCentres(Working& w) {
+void FindCentres(TangentNumbers& w) {
     if (w.Sense) {
         Put(w.Centres[0], w.Crossing, {-1, -1}, w.B1, w.B2);
         Put(w.Centres[1], w.Crossing, {1, 1}, w.B1, w.B2);
@@ -131,7 +131,7 @@ void FindCentres(Working& w) {
 // Points of tangency of the first two centres: from the crossing along the lines.
 
 struct AlongRow {
-    Signs OnA1, OnB1, OnA2, OnB2;
+    AxisSigns OnA1, OnB1, OnA2, OnB2;
 };
 constexpr AlongRow Ahead{{1, 1}, {1, 1}, {-1, -1}, {-1, -1}};
 constexpr AlongRow Back{{-1, -1}, {-1, -1}, {1, 1}, {1, 1}};
@@ -143,8 +143,8 @@ bool IsMinusRightAngle(Checked angle) {
     return ValueOf(Format(angle.Value(), ".000000000000")) == MinusRightAngle;
 }
 
-void PutAlong(Working& w, const AlongRow& row) {
-    const auto put = [&](Place& place, Signs signs, const Slope& line) {
+void PutAlong(TangentNumbers& w, const AlongRow& row) {
+    const auto put = [&](Place& place, AxisSigns signs, const Slope& line) {
         Checked u;
         Checked v;
         Step(u, [&] { return w.Tk * Sin(line.Psi * w.Rad); });
@@ -158,7 +158,7 @@ void PutAlong(Working& w, const AlongRow& row) {
 }
 
 /// The rows are tested from top to bottom, and a later one that fires writes over an earlier one.
-void TouchAlongLines(Working& w) {
+void TouchAlongLines(TangentNumbers& w) {
     const Place c = w.Centres[0];
     const Place& p = w.Crossing;
     const bool lowerLeft = c.X < p.X && c.Y < p.Y;
@@ -231,7 +231,7 @@ bool Holds(Want want, Checked difference) {
 }
 
 /// The point square to a line: `side` is 1 in the cases I and IV, -1 in the others.
-void PutSquare(Working& w, std::size_t centre, double side, Place Points::*on, const Slope& line) {
+void PutSquare(TangentNumbers& w, std::size_t centre, double side, Place Points::*on, const Slope& line) {
     Checked cosine;
     Checked sine;
     Step(cosine, [&] { return w.R * Cos(line.Psi * w.Rad); });
@@ -239,14 +239,14 @@ void PutSquare(Working& w, std::size_t centre, double side, Place Points::*on, c
     Put(w.Touch[centre].*on, w.Centres[centre], {side, -side}, cosine, sine);
 }
 
-void PutSquare(Working& w, double side) {
+void PutSquare(TangentNumbers& w, double side) {
     PutSquare(w, 2, side, &Points::OnA, w.A);
     PutSquare(w, 2, side, &Points::OnB, w.B);
     PutSquare(w, 3, -side, &Points::OnA, w.A);
     PutSquare(w, 3, -side, &Points::OnB, w.B);
 }
 
-void PutOffset(Working& w, Place Points::*on, const Offset& offset) {
+void PutOffset(TangentNumbers& w, Place Points::*on, const Offset& offset) {
     Checked sb;
     Step(sb, [&] { return w.R * Sin(w.B.Psi * w.Rad); });
     const Checked x = w.R * offset.X;
@@ -255,7 +255,7 @@ void PutOffset(Working& w, Place Points::*on, const Offset& offset) {
     Put(w.Touch[3].*on, w.Centres[3], {-1, -1}, x, y);
 }
 
-void Correct(Working& w, Case found) {
+void Correct(TangentNumbers& w, Case found) {
     for (const Correction& row : Corrections) {
         if (row.For != found || !Holds(row.DxA, w.A.Dx) || !Holds(row.DyA, w.A.Dy) || !Holds(row.DxB, w.B.Dx) ||
             !Holds(row.DyB, w.B.Dy)) {
@@ -273,7 +273,7 @@ void Correct(Working& w, Case found) {
     }
 }
 
-void TouchSquare(Working& w) {
+void TouchSquare(TangentNumbers& w) {
     const Case found = CaseOf(w.Centres[2], w.Crossing);
     if (found == Case::None) {
         return;
@@ -315,7 +315,7 @@ std::array<TangentCircle, 4> FindTangentCircles(const std::vector<std::string>& 
                                                 double radius, Tangents tangents) {
     const PairItem chosen = ReadPair(item);
     const LinePair lines = FindLinePair(lineRecords, chosen);
-    Working w;
+    TangentNumbers w;
     w.Crossing = {chosen.Crossing.X, chosen.Crossing.Y};
     w.R = radius;
     w.Rad = Atn(1.0) * 4.0 / 180.0;

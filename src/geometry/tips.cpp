@@ -3,6 +3,7 @@
 
 #include "frame/text.h"
 #include "geometry/steps.h"
+#include "services/degrees.h"
 
 #include <string_view>
 
@@ -13,7 +14,6 @@ namespace {
 constexpr double HalfTurn = 180;
 constexpr double QuarterTurn = 90;
 constexpr double ThreeQuarters = 270;
-constexpr double FullTurn = 360;
 
 /// Four decimals, no zero before the point.
 std::string Places(double value) {

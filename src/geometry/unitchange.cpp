@@ -4,14 +4,13 @@
 #include "frame/fault.h"
 #include "frame/program.h"
 #include "geometry/record.h"
+#include "services/units.h"
 
 #include <algorithm>
 
 namespace brindlex::geometry {
 
 namespace {
-
-constexpr double MillimetersPerInch = 25.4;
 
 /// A fit sets the scroll bars; where they stood there already, the picture is told here.
 void FollowScrollBars(Session& work) {

@@ -2,6 +2,7 @@
 #include "geometry/viewport.h"
 
 #include "frame/text.h"
+#include "services/units.h"
 
 #include <algorithm>
 #include <cmath>
@@ -12,7 +13,6 @@ namespace brindlex::geometry {
 
 namespace {
 
-constexpr double MillimetersPerInch = 25.4;
 constexpr double InchCross = 0.0884;
 constexpr int LeastScroll = 20;
 constexpr double SmallestView = 0.002;

@@ -283,11 +283,11 @@ void ShotAct(Stage& stage, ScriptLine& line) {
     }
 }
 
-struct Row {
+struct ActRow {
     std::string_view word;
     Act act;
 };
-constexpr Row Rows[] = {
+constexpr ActRow Acts[] = {
     {"press", PressAct},   {"menu", MenuAct},         {"tool", ToolAct},       {"focus", FocusAct},
     {"type", TypeAct},     {"key", KeyAct},           {"tab", TabAct},         {"choose", ChooseAct},
     {"select", SelectAct}, {"set", SetAct},           {"additem", AddItemAct}, {"scroll", ScrollAct},
@@ -298,7 +298,7 @@ constexpr Row Rows[] = {
 }  // namespace
 
 Act ActNamed(std::string_view word) {
-    for (const Row& row : Rows) {
+    for (const ActRow& row : Acts) {
         if (row.word == word) {
             return row.act;
         }

@@ -91,11 +91,11 @@ void WriteAct(Stage& stage, ScriptLine& line) {
     }
 }
 
-struct Row {
+struct PreparationRow {
     std::string_view word;
     Act act;
 };
-constexpr Row Rows[] = {
+constexpr PreparationRow Preparations[] = {
     {"clipboard", ClipboardAct}, {"answer", AnswerAct},   {"input", InputAct},
     {"dialog", DialogAct},       {"printer", PrinterAct}, {"write", WriteAct},
 };
@@ -103,7 +103,7 @@ constexpr Row Rows[] = {
 }  // namespace
 
 Act PreparationNamed(std::string_view word) {
-    for (const Row& row : Rows) {
+    for (const PreparationRow& row : Preparations) {
         if (row.word == word) {
             return row.act;
         }

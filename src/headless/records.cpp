@@ -31,45 +31,42 @@ std::string ColourCode(const Colour& colour) {
     return code;
 }
 
-json JsonOf(const PrintedText& text) {
-    return json::array({"text", brindlex::JsonOf(std::string_view(text.Text)),
-                        brindlex::JsonOf(std::string_view(text.Font.Name)), brindlex::JsonOf(text.Font.Size),
-                        JsonOfFlag(text.Font.Bold)});
+json PrintedJson(const PrintedText& text) {
+    return json::array({"text", JsonOf(std::string_view(text.Text)), JsonOf(std::string_view(text.Font.Name)),
+                        JsonOf(text.Font.Size), JsonOfFlag(text.Font.Bold)});
 }
 
-json JsonOf(const PrintedPicture& picture) {
-    return json::array({"picture", brindlex::JsonOf(picture.Where.Left), brindlex::JsonOf(picture.Where.Top),
-                        brindlex::JsonOf(picture.Where.Width), brindlex::JsonOf(picture.Where.Height)});
+json PrintedJson(const PrintedPicture& picture) {
+    return json::array({"picture", JsonOf(picture.Where.Left), JsonOf(picture.Where.Top), JsonOf(picture.Where.Width),
+                        JsonOf(picture.Where.Height)});
 }
 
-json JsonOf(const PrintedPage& page) {
+json PageJson(const PrintedPage& page) {
     json items = json::array();
-    items.push_back(json::array({"page", brindlex::JsonOf(page.Width), brindlex::JsonOf(page.Height)}));
+    items.push_back(json::array({"page", JsonOf(page.Width), JsonOf(page.Height)}));
     for (const auto& item : page.Items) {
-        items.push_back(std::visit([](const auto& printed) { return JsonOf(printed); }, item));
+        items.push_back(std::visit([](const auto& printed) { return PrintedJson(printed); }, item));
     }
     return items;
 }
 
-json JsonOf(const DrawItem& item) {
-    const json x1 = brindlex::JsonOf(item.X1);
-    const json y1 = brindlex::JsonOf(item.Y1);
+json ItemJson(const DrawItem& item) {
+    const json x1 = JsonOf(item.X1);
+    const json y1 = JsonOf(item.Y1);
     const json colour = ColourCode(item.Ink);
     switch (item.Kind) {
         case DrawKind::Line:
-            return json::array({"line", x1, y1, brindlex::JsonOf(item.X2), brindlex::JsonOf(item.Y2), colour,
-                                item.DrawWidth, item.DrawStyle});
+            return json::array(
+                {"line", x1, y1, JsonOf(item.X2), JsonOf(item.Y2), colour, item.DrawWidth, item.DrawStyle});
         case DrawKind::Box:
-            return json::array(
-                {"box", x1, y1, brindlex::JsonOf(item.X2), brindlex::JsonOf(item.Y2), colour, JsonOfFlag(item.Filled)});
+            return json::array({"box", x1, y1, JsonOf(item.X2), JsonOf(item.Y2), colour, JsonOfFlag(item.Filled)});
         case DrawKind::Circle:
-            return json::array(
-                {"circle", x1, y1, brindlex::JsonOf(item.Radius), colour, item.DrawWidth, item.DrawStyle});
+            return json::array({"circle", x1, y1, JsonOf(item.Radius), colour, item.DrawWidth, item.DrawStyle});
         case DrawKind::Text:
             break;
     }
-    return json::array({"text", brindlex::JsonOf(std::string_view(item.Text)), x1, y1, colour, JsonOfFlag(item.Bold),
-                        brindlex::JsonOf(item.FontSize)});
+    return json::array(
+        {"text", JsonOf(std::string_view(item.Text)), x1, y1, colour, JsonOfFlag(item.Bold), JsonOf(item.FontSize)});
 }
 
 }  // namespace
@@ -90,7 +87,7 @@ json JsonOf(const WindowRegion& region) {
 json JsonOf(const PrintedDocument& document) {
     json pages = json::array();
     for (const PrintedPage& page : document.Pages) {
-        pages.push_back(JsonOf(page));
+        pages.push_back(PageJson(page));
     }
     return pages;
 }
@@ -98,7 +95,7 @@ json JsonOf(const PrintedDocument& document) {
 json JsonOf(const Drawing& drawing) {
     json items = json::array();
     for (const DrawItem& item : drawing.Items()) {
-        items.push_back(JsonOf(item));
+        items.push_back(ItemJson(item));
     }
     return items;
 }

@@ -6,6 +6,7 @@
 #include "services/documents.h"
 #include "services/printing.h"
 #include "services/rounding.h"
+#include "services/units.h"
 
 #include <algorithm>
 #include <optional>
@@ -19,7 +20,6 @@ namespace {
 constexpr DocumentKind Document{"Oblique Triangle Files(*.obl)|*.obl",   DocumentLines,      IsDocument,
                                 "This Is Not An Oblique Triangle File!", style::Exclamation, false};
 
-constexpr double MillimetersPerInch = 25.4;
 constexpr std::string_view MillimetersMask = ".000000000000000";
 
 constexpr std::array<std::string_view, 9> TextBoxes = {"Text1", "Text2", "Text3", "Text4", "Text5",

@@ -11,6 +11,7 @@
 #include "services/documents.h"
 #include "services/filters.h"
 #include "services/printing.h"
+#include "services/units.h"
 #include "services/words.h"
 
 #include <array>
@@ -20,7 +21,6 @@ namespace brindlex::polygon {
 
 namespace {
 
-constexpr double MillimetersPerInch = 25.4;
 constexpr std::string_view ConvertedMask = ".000000000000000";
 constexpr std::array<std::string_view, 2> Boxes = {"Text1", "Text2"};
 constexpr const char* Title = "Solutions To Polygons";

@@ -12,8 +12,6 @@ namespace brindlex::righttri {
 
 namespace {
 
-constexpr char Degree = DegreeSign;
-
 /// The rounding of this calculator empties its slot.
 double Rounded(double number, SharedState& shared) {
     const double rounded = RoundedForDisplay(number, shared, shared.DigitsR);
@@ -31,7 +29,8 @@ Answer InDegrees(const Triangle& found, SharedState& shared) {
     Answer answer;
     answer.Rounded = {Rounded(found.SideA, shared), Rounded(found.SideB, shared), Rounded(found.SideC, shared),
                       Rounded(found.AngleB, shared), Rounded(found.AngleC, shared)};
-    answer.Texts = TextsOf(answer.Rounded, Str(answer.Rounded.AngleB) + Degree, Str(answer.Rounded.AngleC) + Degree);
+    answer.Texts =
+        TextsOf(answer.Rounded, Str(answer.Rounded.AngleB) + DegreeSign, Str(answer.Rounded.AngleC) + DegreeSign);
     return answer;
 }
 

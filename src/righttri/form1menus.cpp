@@ -9,6 +9,7 @@
 #include "services/printing.h"
 #include "services/rounding.h"
 #include "services/settings.h"
+#include "services/units.h"
 
 #include <array>
 #include <utility>
@@ -28,7 +29,6 @@ constexpr std::array<std::string_view, 8> BoxesToCopy = {"Text1", "Text2", "Text
                                                          "Text5", "Text6", "Text7", "Text8"};
 constexpr std::array<std::string_view, 2> BoxesToPaste = {"Text1", "Text2"};
 
-constexpr double MillimetersPerInch = 25.4;
 constexpr std::string_view ConvertedMask = ".000000000000000";
 
 std::string FlagText(const MenuItem& item) {

@@ -8,8 +8,6 @@ namespace brindlex {
 
 namespace {
 
-constexpr double PerWhole = 60;  // minutes in a degree, seconds in a minute
-constexpr double SecondsPerDegree = 3600;
 constexpr std::string_view Degree(&DegreeSign, 1);
 constexpr std::string_view MinutesMark = "'";
 constexpr std::string_view SecondsMark = "\"";

@@ -9,6 +9,10 @@
 
 namespace brindlex {
 
+inline constexpr double FullTurn = 360;  ///< degrees
+inline constexpr double PerWhole = 60;   ///< minutes in a degree, seconds in a minute
+inline constexpr double SecondsPerDegree = 3600;
+
 struct DegreeParts {
     std::int16_t Degrees = 0;
     double Minutes = 0;

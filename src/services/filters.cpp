@@ -175,7 +175,7 @@ bool NoKeyAboveZero(const Stroke& stroke) {
     return stroke.Key > 0 ? NoKey(stroke) : true;
 }
 
-constexpr FilterRow Rows[] = {
+constexpr FilterRow FilterRows[] = {
     {"Form1", "Text1 Text2", PointOrPaste, style::Exclamation, Effect::UnitsOnBreakOff},
     {"Form1", "Combo1", NoKey},
 
@@ -244,7 +244,7 @@ void BindFilter(EditControl& box, const FilterRow& row) {
 }  // namespace
 
 void BindFilters(Form& form) {
-    for (const FilterRow& row : Rows) {
+    for (const FilterRow& row : FilterRows) {
         if (row.Form != form.Name()) {
             continue;
         }

@@ -4,6 +4,7 @@
 #include "frame/program.h"
 #include "frame/text.h"
 #include "services/activebox.h"
+#include "services/degrees.h"
 #include "services/filters.h"
 
 #include <algorithm>
@@ -21,10 +22,8 @@ struct MinutesRow {
 
 namespace {
 
-constexpr double DesignWidth = 4665;
-constexpr double DesignHeight = 1695;
-constexpr double PerWhole = 60;  // minutes in a degree, seconds in a minute
-constexpr double SecondsPerDegree = 3600;
+constexpr double MinutesWidth = 4665;
+constexpr double MinutesHeight = 1695;
 constexpr double RightAngle = 90;
 
 // The double quote at the end belongs to the message: intended.
@@ -34,7 +33,7 @@ constexpr const char* TooManyDegrees =
     "The Sum Of These Values Is Equal To, Or Greater Than 90.\r\nPlease Re-Check Your Information And Try Again.";
 constexpr const char* OutOfRange = "The Sum Of These Values Is Too Large.";
 
-constexpr MinutesRow Rows[] = {
+constexpr MinutesRow MinutesRows[] = {
     {"Form3", "Form1", "", true},
     {"Form4", "Form2", ""},
     {"Form13", "Form12", ""},
@@ -51,7 +50,7 @@ double NumberIn(const TextBox& box) {
 }  // namespace
 
 MinutesSecondsDialog::MinutesSecondsDialog(Program& program, const MinutesRow& row)
-    : Form(program, std::string(row.Name), DesignWidth, DesignHeight), row_(row) {
+    : Form(program, std::string(row.Name), MinutesWidth, MinutesHeight), row_(row) {
     DialogOf(std::string(row.Owner));
     Command1.Default(true);
     Command2.Cancel(true);
@@ -133,9 +132,9 @@ void MinutesSecondsDialog::Command2_Click() {
 }
 
 std::unique_ptr<Form> MakeMinutesSecondsDialog(Program& program, std::string_view name) {
-    const auto* const row = std::find_if(std::begin(Rows), std::end(Rows),
+    const auto* const row = std::find_if(std::begin(MinutesRows), std::end(MinutesRows),
                                          [&](const MinutesRow& candidate) { return candidate.Name == name; });
-    if (row == std::end(Rows)) {
+    if (row == std::end(MinutesRows)) {
         throw Fault(FaultNumber::BadArgument, "There is no Minutes and Seconds dialog " + std::string(name));
     }
     return std::make_unique<MinutesSecondsDialog>(program, *row);

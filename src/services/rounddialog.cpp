@@ -19,12 +19,12 @@ struct RoundRow {
 
 namespace {
 
-constexpr double DesignWidth = 4365;
-constexpr double DesignHeight = 1455;
+constexpr double RoundWidth = 4365;
+constexpr double RoundHeight = 1455;
 constexpr int MostDigits = 15;
 constexpr std::string_view SineDigits = "4";
 
-constexpr RoundRow Rows[] = {
+constexpr RoundRow RoundRows[] = {
     {"Form5", "Form1", "Round To", &SharedState::DigitsR},
     {"Form6", "Form2", "Round To", &SharedState::DigitsO},
     {"Form9", "Form8", "Round Numbers To", &SharedState::DigitsB},
@@ -34,7 +34,7 @@ constexpr RoundRow Rows[] = {
 }  // namespace
 
 RoundNumbersDialog::RoundNumbersDialog(Program& program, const RoundRow& row)
-    : Form(program, std::string(row.Name), DesignWidth, DesignHeight), row_(row) {
+    : Form(program, std::string(row.Name), RoundWidth, RoundHeight), row_(row) {
     DialogOf(std::string(row.Owner));
     Label1.Caption(std::string(row.Label));
     Label1.Align(Label::Alignment::Right);
@@ -80,9 +80,9 @@ void RoundNumbersDialog::Command2_Click() {
 }
 
 std::unique_ptr<Form> MakeRoundNumbersDialog(Program& program, std::string_view name) {
-    const auto* const row = std::find_if(std::begin(Rows), std::end(Rows),
+    const auto* const row = std::find_if(std::begin(RoundRows), std::end(RoundRows),
                                          [&](const RoundRow& candidate) { return candidate.Name == name; });
-    if (row == std::end(Rows)) {
+    if (row == std::end(RoundRows)) {
         throw Fault(FaultNumber::BadArgument, "There is no Round Numbers dialog " + std::string(name));
     }
     return std::make_unique<RoundNumbersDialog>(program, *row);

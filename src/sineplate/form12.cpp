@@ -12,6 +12,7 @@
 #include "services/filters.h"
 #include "services/printing.h"
 #include "services/rounding.h"
+#include "services/units.h"
 #include "services/words.h"
 #include "sineplate/document.h"
 
@@ -25,7 +26,6 @@ namespace brindlex::sineplate {
 
 namespace {
 
-constexpr double MillimetersPerInch = 25.4;
 constexpr int LargestSpacing = 20;
 constexpr std::array<std::string_view, 4> Boxes = {"Text1", "Text2", "Text3", "Text4"};
 constexpr const char* Incomplete = "You Haven't Completed The Form";

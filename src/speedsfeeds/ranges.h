@@ -2,6 +2,7 @@
 // Includes no control, form or runtime.
 #pragma once
 
+#include "services/units.h"
 #include "speedsfeeds/setup.h"
 
 #include <optional>
@@ -47,7 +48,6 @@ struct RangePair {
 [[nodiscard]] std::string ConvertNumber(std::string_view text, double factor, Unit to);
 
 inline constexpr double MetersPerFoot = 0.3048;
-inline constexpr double MillimetersPerInch = 25.4;
 inline constexpr double KilowattFactor = 2.73;
 
 }  // namespace brindlex::speedsfeeds

@@ -7,11 +7,6 @@
 namespace brindlex {
 namespace {
 
-/// What the handlers heard behind the start.
-Log HeardOf(const ScriptStand& stand) {
-    return {stand.Heard.begin() + 2, stand.Heard.end()};
-}
-
 struct Refusal {
     const char* before;  ///< a command that leads there
     const char* command;

@@ -7,10 +7,6 @@
 namespace brindlex {
 namespace {
 
-Log HeardOf(const ScriptStand& stand) {
-    return {stand.Heard.begin() + 2, stand.Heard.end()};
-}
-
 TEST(ActsOnFormsTest, ScrollWithinTheRangeBothWays) {
     ScriptStand stand;
     EXPECT_EQ(stand.AfterStart("scroll Form11.VScroll1 32767\n"

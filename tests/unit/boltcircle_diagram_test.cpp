@@ -3,6 +3,7 @@
 #include "fakeruntime.h"
 #include "frame/fontwidths.h"
 #include "frame/program.h"
+#include "radians.h"
 #include "testfolder.h"
 
 #include <gtest/gtest.h>
@@ -15,7 +16,6 @@
 namespace brindlex::boltcircle {
 namespace {
 
-const double Rad = std::acos(-1.0) / 180;
 constexpr double Near = 1e-9;
 
 class BoltCircleDiagram : public ::testing::Test {

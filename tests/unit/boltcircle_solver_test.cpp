@@ -2,6 +2,7 @@
 #include "boltcircle/report.h"
 #include "boltcircle/solver.h"
 #include "faultof.h"
+#include "radians.h"
 
 #include <gtest/gtest.h>
 
@@ -13,7 +14,6 @@
 namespace brindlex::boltcircle {
 namespace {
 
-const double Rad = std::acos(-1.0) / 180;
 const std::string Degree = "\xB0";
 
 std::string Lines(const std::vector<std::string>& lines) {

@@ -14,7 +14,7 @@ namespace {
 using Limits = std::numeric_limits<double>;
 
 /// The number of the fault that a calculation ends in, if any.
-std::optional<FaultNumber> FaultOf(const std::function<Checked()>& calculation) {
+std::optional<FaultNumber> FaultIn(const std::function<Checked()>& calculation) {
     try {
         static_cast<void>(calculation());
     } catch (const Fault& fault) {
@@ -58,20 +58,20 @@ TEST(Checked, Compares) {
 }
 
 TEST(Checked, DivisionTellsItsTwoFaultsApart) {
-    EXPECT_EQ(FaultOf([] { return Checked(1.0) / 0.0; }), FaultNumber::DivisionByZero);
-    EXPECT_EQ(FaultOf([] { return Checked(-1e-300) / -0.0; }), FaultNumber::DivisionByZero);
-    EXPECT_EQ(FaultOf([] { return Checked(0.0) / 0.0; }), FaultNumber::Overflow);
-    EXPECT_EQ(FaultOf([] { return Checked(-0.0) / 0.0; }), FaultNumber::Overflow);
-    EXPECT_EQ(FaultOf([] { return Checked(0.0) / 5.0; }), std::nullopt);
+    EXPECT_EQ(FaultIn([] { return Checked(1.0) / 0.0; }), FaultNumber::DivisionByZero);
+    EXPECT_EQ(FaultIn([] { return Checked(-1e-300) / -0.0; }), FaultNumber::DivisionByZero);
+    EXPECT_EQ(FaultIn([] { return Checked(0.0) / 0.0; }), FaultNumber::Overflow);
+    EXPECT_EQ(FaultIn([] { return Checked(-0.0) / 0.0; }), FaultNumber::Overflow);
+    EXPECT_EQ(FaultIn([] { return Checked(0.0) / 5.0; }), std::nullopt);
 }
 
 TEST(Checked, NoticesOverflow) {
-    EXPECT_EQ(FaultOf([] { return Checked(1e308) * 10.0; }), FaultNumber::Overflow);
-    EXPECT_EQ(FaultOf([] { return Checked(Limits::max()) + Limits::max(); }), FaultNumber::Overflow);
-    EXPECT_EQ(FaultOf([] { return Checked(Limits::lowest()) - Limits::max(); }), FaultNumber::Overflow);
-    EXPECT_EQ(FaultOf([] { return Checked(1e300) / 1e-300; }), FaultNumber::Overflow);
-    EXPECT_EQ(FaultOf([] { return Checked(Limits::infinity()); }), FaultNumber::Overflow);
-    EXPECT_EQ(FaultOf([] { return Checked(Limits::quiet_NaN()); }), FaultNumber::Overflow);
+    EXPECT_EQ(FaultIn([] { return Checked(1e308) * 10.0; }), FaultNumber::Overflow);
+    EXPECT_EQ(FaultIn([] { return Checked(Limits::max()) + Limits::max(); }), FaultNumber::Overflow);
+    EXPECT_EQ(FaultIn([] { return Checked(Limits::lowest()) - Limits::max(); }), FaultNumber::Overflow);
+    EXPECT_EQ(FaultIn([] { return Checked(1e300) / 1e-300; }), FaultNumber::Overflow);
+    EXPECT_EQ(FaultIn([] { return Checked(Limits::infinity()); }), FaultNumber::Overflow);
+    EXPECT_EQ(FaultIn([] { return Checked(Limits::quiet_NaN()); }), FaultNumber::Overflow);
 }
 
 TEST(Checked, UnderflowIsNoFault) {
@@ -91,7 +91,7 @@ TEST(Checked, SquareRoot) {
     EXPECT_EQ(Sqr(6.25).Value(), 2.5);
     EXPECT_EQ(Sqr(0.0).Value(), 0.0);
     EXPECT_EQ(Sqr(-0.0).Value(), 0.0);
-    EXPECT_EQ(FaultOf([] { return Sqr(-1e-300); }), FaultNumber::BadArgument);
+    EXPECT_EQ(FaultIn([] { return Sqr(-1e-300); }), FaultNumber::BadArgument);
 }
 
 TEST(Checked, Functions) {

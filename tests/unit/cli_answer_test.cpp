@@ -5,9 +5,8 @@
 
 #include <gtest/gtest.h>
 
+namespace brindlex::cli {
 namespace {
-
-using namespace brindlex::cli;
 using Rows = std::vector<std::vector<std::string>>;
 
 Answer Sample() {
@@ -122,3 +121,4 @@ TEST(Csv, TellsTheLineOfWhatItCanNotRead) {
 }
 
 }  // namespace
+}  // namespace brindlex::cli

@@ -3,9 +3,8 @@
 
 #include <gtest/gtest.h>
 
+namespace brindlex::cli {
 namespace {
-
-using namespace brindlex::cli;
 using Words = std::vector<std::string>;
 
 std::string Echo(const Arguments& given, const StandardInput&) {
@@ -97,3 +96,4 @@ TEST(CommandLineHelp, TellsOptionsAndSketch) {
 }
 
 }  // namespace
+}  // namespace brindlex::cli

@@ -5,9 +5,8 @@
 
 #include <gtest/gtest.h>
 
+namespace brindlex::cli {
 namespace {
-
-using namespace brindlex::cli;
 
 Arguments Given(std::string_view text) {
     Arguments given;
@@ -26,48 +25,49 @@ std::string Outcome(Read&& read) {
     }
 }
 
-struct Row {
+struct ReadRow {
     std::string_view Text;
     std::string Expected;
 };
 
-class Angles : public testing::TestWithParam<Row> {};
+class AngleValues : public testing::TestWithParam<ReadRow> {};
 
 // 30 15' 20" is 30 + 15/60 + 20/3600 = 30.25555..., to 15 digits; 12 0' 30.5" is 12.00847222...
-TEST_P(Angles, AreDecimalOrInMinutes) {
+TEST_P(AngleValues, AreDecimalOrInMinutes) {
     EXPECT_EQ(Outcome([] { return AngleFrom(Given(GetParam().Text), "--x", Sign::Positive); }), GetParam().Expected);
 }
 
 INSTANTIATE_TEST_SUITE_P(
-    Texts, Angles,
-    testing::Values(Row{"30", "30"}, Row{"30.5", "30.5"}, Row{" 30.5 deg", "30.5"}, Row{"30.5d", "30.5"},
-                    Row{"30.5\xC2\xB0", "30.5"}, Row{"1e1", "1e1"}, Row{"30:15:20", " 30.2555555555556"},
-                    Row{"30d15m20s", " 30.2555555555556"}, Row{"30\xC2\xB0 15' 20\"", " 30.2555555555556"},
-                    Row{"30 deg 15 min", " 30.25"}, Row{"12:0:30.5", " 12.0084722222222"}, Row{"0:30", " .5"},
-                    Row{"0", "--x 0: this must be above 0"}, Row{"0:0:0", "--x 0:0:0: this must be above 0"},
-                    Row{"-3", "--x -3: this must be above 0"}, Row{"30:", "--x 30:: this is no angle"},
-                    Row{"30:15:", "--x 30:15:: this is no angle"}, Row{"30::15", "--x 30::15: this is no angle"},
-                    Row{"30.5:15", "--x 30.5:15: this is no angle"}, Row{"30:-15", "--x 30:-15: this is no angle"},
-                    Row{"30:1.5:2", "--x 30:1.5:2: this is no angle"}, Row{"1:2:3:4", "--x 1:2:3:4: this is no angle"},
-                    Row{"30:60", "--x 30:60: minutes and seconds must be below 60"},
-                    Row{"30:0:60", "--x 30:0:60: minutes and seconds must be below 60"},
-                    Row{"32768:0", "--x 32768:0: this is out of range"}, Row{"30m", "--x 30m: this is no angle"},
-                    Row{"1e999", "--x 1e999: this is out of range"}, Row{"", "--x : this is no number"}));
+    Texts, AngleValues,
+    testing::Values(
+        ReadRow{"30", "30"}, ReadRow{"30.5", "30.5"}, ReadRow{" 30.5 deg", "30.5"}, ReadRow{"30.5d", "30.5"},
+        ReadRow{"30.5\xC2\xB0", "30.5"}, ReadRow{"1e1", "1e1"}, ReadRow{"30:15:20", " 30.2555555555556"},
+        ReadRow{"30d15m20s", " 30.2555555555556"}, ReadRow{"30\xC2\xB0 15' 20\"", " 30.2555555555556"},
+        ReadRow{"30 deg 15 min", " 30.25"}, ReadRow{"12:0:30.5", " 12.0084722222222"}, ReadRow{"0:30", " .5"},
+        ReadRow{"0", "--x 0: this must be above 0"}, ReadRow{"0:0:0", "--x 0:0:0: this must be above 0"},
+        ReadRow{"-3", "--x -3: this must be above 0"}, ReadRow{"30:", "--x 30:: this is no angle"},
+        ReadRow{"30:15:", "--x 30:15:: this is no angle"}, ReadRow{"30::15", "--x 30::15: this is no angle"},
+        ReadRow{"30.5:15", "--x 30.5:15: this is no angle"}, ReadRow{"30:-15", "--x 30:-15: this is no angle"},
+        ReadRow{"30:1.5:2", "--x 30:1.5:2: this is no angle"}, ReadRow{"1:2:3:4", "--x 1:2:3:4: this is no angle"},
+        ReadRow{"30:60", "--x 30:60: minutes and seconds must be below 60"},
+        ReadRow{"30:0:60", "--x 30:0:60: minutes and seconds must be below 60"},
+        ReadRow{"32768:0", "--x 32768:0: this is out of range"}, ReadRow{"30m", "--x 30m: this is no angle"},
+        ReadRow{"1e999", "--x 1e999: this is out of range"}, ReadRow{"", "--x : this is no number"}));
 
-class Lengths : public testing::TestWithParam<Row> {};
+class Lengths : public testing::TestWithParam<ReadRow> {};
 
 TEST_P(Lengths, MayNameTheirUnit) {
     EXPECT_EQ(Outcome([] { return LengthFrom(Given(GetParam().Text), "--x", Unit::Inch, Sign::NotNegative); }),
               GetParam().Expected);
 }
 
-INSTANTIATE_TEST_SUITE_P(Texts, Lengths,
-                         testing::Values(Row{"5", "5"}, Row{".5in", ".5"}, Row{"5\"", "5"}, Row{"+5. in", "+5."},
-                                         Row{"0", "0"}, Row{"5mm", "--x 5mm: the unit here is in"},
-                                         Row{"5cm", "--x 5cm: this is no length"},
-                                         Row{"in", "--x in: this is no number"},
-                                         Row{"5 5", "--x 5 5: this is no length"}, Row{".", "--x .: this is no number"},
-                                         Row{"-1", "--x -1: this must not be below 0"}));
+INSTANTIATE_TEST_SUITE_P(
+    Texts, Lengths,
+    testing::Values(ReadRow{"5", "5"}, ReadRow{".5in", ".5"}, ReadRow{"5\"", "5"}, ReadRow{"+5. in", "+5."},
+                    ReadRow{"0", "0"}, ReadRow{"5mm", "--x 5mm: the unit here is in"},
+                    ReadRow{"5cm", "--x 5cm: this is no length"}, ReadRow{"in", "--x in: this is no number"},
+                    ReadRow{"5 5", "--x 5 5: this is no length"}, ReadRow{".", "--x .: this is no number"},
+                    ReadRow{"-1", "--x -1: this must not be below 0"}));
 
 TEST(Numbers, StandAlone) {
     for (const std::string_view text : {"5", "-5", "+.5", "5.", "1e3", "1E-3", "-0"}) {
@@ -102,3 +102,4 @@ TEST(OneOf, IsGivenOnce) {
 }
 
 }  // namespace
+}  // namespace brindlex::cli

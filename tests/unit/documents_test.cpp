@@ -8,9 +8,8 @@
 
 #include <gtest/gtest.h>
 
+namespace brindlex {
 namespace {
-
-using namespace brindlex;
 using Lines = std::vector<std::string>;
 
 TEST(Words, OfABoolean) {
@@ -84,3 +83,4 @@ TEST(TriangleDocuments, BeginWithACase) {
 }
 
 }  // namespace
+}  // namespace brindlex

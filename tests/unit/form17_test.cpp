@@ -14,8 +14,6 @@
 namespace brindlex::geometry {
 namespace {
 
-const std::string End = "\r\n";
-
 TEST_F(Form17Test, LeavesNoTraceOnAnyWayOut) {
     EXPECT_EQ(folder.Names(), (std::vector<std::string>{"aaaa.tmp", "geometry.dat"}));
     PlaceCircle("0", "0", "1");

@@ -18,9 +18,9 @@
 namespace brindlex {
 namespace {
 
-class SampleForm : public Form {
+class RowsForm : public Form {
 public:
-    SampleForm(Program& program, std::vector<std::string>& log) : Form(program, "Sample", 3000, 2000), log_(log) {
+    RowsForm(Program& program, std::vector<std::string>& log) : Form(program, "Sample", 3000, 2000), log_(log) {
         Command1.Default(true);
         for (TextBox* const box : {&Text1, &Text2}) {
             box->Change.Bind([this, box] { log_.push_back(box->Name() + "_Change " + box->Text()); });
@@ -82,8 +82,8 @@ private:
 class FormTest : public ::testing::Test {
 protected:
     FormTest() {
-        program.Register("Sample", [this](Program& owner) { return std::make_unique<SampleForm>(owner, log); });
-        form = dynamic_cast<SampleForm*>(&program.Get("Sample"));
+        program.Register("Sample", [this](Program& owner) { return std::make_unique<RowsForm>(owner, log); });
+        form = dynamic_cast<RowsForm*>(&program.Get("Sample"));
     }
     std::vector<std::string> Log() { return std::exchange(log, {}); }
     using Lines = std::vector<std::string>;
@@ -92,7 +92,7 @@ protected:
     FakeRuntime runtime{run};
     std::vector<std::string> log;
     Program program{runtime, Folder(std::filesystem::temp_directory_path())};
-    SampleForm* form = nullptr;
+    RowsForm* form = nullptr;
 };
 
 TEST_F(FormTest, FirstShowLoadsInitialisesResizesAndFocuses) {

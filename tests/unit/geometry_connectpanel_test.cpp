@@ -16,7 +16,6 @@
 namespace brindlex::geometry {
 namespace {
 
-const std::string End = "\r\n";
 using Texts = std::vector<std::string>;
 
 class Connecting : public Form17Test {

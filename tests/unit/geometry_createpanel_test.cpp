@@ -12,8 +12,6 @@
 namespace brindlex::geometry {
 namespace {
 
-const std::string End = "\r\n";
-
 class Create : public Form17Test {
 protected:
     [[nodiscard]] std::string Drawing() const { return folder.Get("geometry.dat"); }

@@ -12,8 +12,6 @@
 namespace brindlex::geometry {
 namespace {
 
-const std::string End = "\r\n";
-
 class Keeping : public Form17Test {
 protected:
     /// A circle 1 and a point 2, and the two lines from the one to the other.

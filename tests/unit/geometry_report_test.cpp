@@ -11,7 +11,7 @@
 namespace brindlex::geometry {
 namespace {
 
-const std::string In(10, ' ');
+const std::string Indented(10, ' ');
 const std::string DeepIn(21, ' ');
 
 std::string Joined(const std::vector<std::string>& lines) {
@@ -22,7 +22,7 @@ std::string Joined(const std::vector<std::string>& lines) {
     return text;
 }
 
-std::string TangentCircle(const std::string& pair, const std::string& marks) {
+std::string TangentCircleLine(const std::string& pair, const std::string& marks) {
     return At({{1, " 3"}, {15, " 2"}, {43, " 0"}, {71, " 0"}, {99, "Circle Tangent"}, {127, pair}, {183, marks}});
 }
 
@@ -41,19 +41,19 @@ TEST(GeometryReport, PointsToTheWhole) {
         {".4", "12.7", "X .,  Y 13."}, {"-.4", "-2.5", "X .,  Y -3."}, {"0", "1.49", "X .,  Y 1."}};
     for (const PointCase& each : cases) {
         EXPECT_EQ(ReportText({PointLine(4, each.X, each.Y)}, Unit::Inch, {}),
-                  Joined({"Scale: Inches", "", " 4 Point:", In + each.Text, ""}));
+                  Joined({"Scale: Inches", "", " 4 Point:", Indented + each.Text, ""}));
     }
 }
 
 TEST(GeometryReport, CircleWithOnePartnerLeft) {
-    const std::string head =
-        Joined({"Scale: Inches", "", "3 Circle:", In + "Center X  0,  Y 0", In + "Diameter:  2", In + "Radius:  1",
-                In + "Area:  3.14159265358979", In + "Circumference:  6.28318530717959"});
+    const std::string head = Joined(
+        {"Scale: Inches", "", "3 Circle:", Indented + "Center X  0,  Y 0", Indented + "Diameter:  2",
+         Indented + "Radius:  1", Indented + "Area:  3.14159265358979", Indented + "Circumference:  6.28318530717959"});
     // The partner is not there, so its kind is empty.
-    EXPECT_EQ(ReportText({TangentCircle(" 4  ,", "# 1$ 2")}, Unit::Inch, {}),
-              head + Joined({In + "Tangent to   4 at:", DeepIn + "X  1", DeepIn + "Y  2", ""}));
-    EXPECT_EQ(ReportText({TangentCircle(" , 5 ", "^ 3& 4")}, Unit::Inch, {}),
-              head + Joined({In + "Tangent to   5 at:", DeepIn + "X  3", DeepIn + "Y  4", ""}));
+    EXPECT_EQ(ReportText({TangentCircleLine(" 4  ,", "# 1$ 2")}, Unit::Inch, {}),
+              head + Joined({Indented + "Tangent to   4 at:", DeepIn + "X  1", DeepIn + "Y  2", ""}));
+    EXPECT_EQ(ReportText({TangentCircleLine(" , 5 ", "^ 3& 4")}, Unit::Inch, {}),
+              head + Joined({Indented + "Tangent to   5 at:", DeepIn + "X  3", DeepIn + "Y  4", ""}));
 }
 
 TEST(GeometryReport, LineWithALonePartner) {
@@ -61,8 +61,9 @@ TEST(GeometryReport, LineWithALonePartner) {
         return At({{1, " 3"}, {15, " 1"}, {43, " 2"}, {71, " 1"}, {99, " 5"}, {127, "Line Tangent"}, {141, tail}});
     };
     const auto block = [](const std::string& partner) {
-        return Joined({"Scale: Inches", "", " 1 Point:", In + "X 1.,  Y 1.", "", " 3 Line:", In + "Start: X  1,  Y  2",
-                       In + "End: X  1,  Y  5", In + "Length:  3", In + "Angle:  90", In + partner, ""});
+        return Joined({"Scale: Inches", "", " 1 Point:", Indented + "X 1.,  Y 1.", "",
+                       " 3 Line:", Indented + "Start: X  1,  Y  2", Indented + "End: X  1,  Y  5",
+                       Indented + "Length:  3", Indented + "Angle:  90", Indented + partner, ""});
     };
     const std::string point = PointLine(1, ".6", ".6");
     const auto report = [&](const std::string& tail) { return ReportText({point, line(tail)}, Unit::Inch, {}); };
@@ -74,9 +75,9 @@ TEST(GeometryReport, ALineInSeveralCrossingsGetsALineForEach) {
     const std::vector<std::string> crossings{PairText(" 1 ", " 2 ", " .5", " 0"), PairText(" 3 ", " 1 ", "-1", " 2"),
                                              PairText(" 4 ", " 5 ", " 9", " 9")};
     EXPECT_EQ(ReportText({LineLine(1, "0", "0", "0", "0")}, Unit::Inch, crossings),
-              Joined({"Scale: Inches", "", " 1 Line:", In + "Start: X  0,  Y  0", In + "End: X  0,  Y  0",
-                      In + "Length:  0", In + "Angle:  0", In + "Intersects Line  2 at X  .5,  Y  0",
-                      In + "Intersects Line  3 at X -1,  Y  2", ""}));
+              Joined({"Scale: Inches", "", " 1 Line:", Indented + "Start: X  0,  Y  0", Indented + "End: X  0,  Y  0",
+                      Indented + "Length:  0", Indented + "Angle:  0", Indented + "Intersects Line  2 at X  .5,  Y  0",
+                      Indented + "Intersects Line  3 at X -1,  Y  2", ""}));
 }
 
 TEST(GeometryReport, ValuesOutOfRangeReadZero) {

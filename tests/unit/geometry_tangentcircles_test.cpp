@@ -3,6 +3,7 @@
 
 #include "frame/text.h"
 #include "geometry/tangentmend.h"
+#include "radians.h"
 #include "unit/geometryrecords.h"
 
 #include <gtest/gtest.h>
@@ -28,14 +29,14 @@ std::string ItemAt(Position crossing) {
     return PairText(" 1 ", " 2 ", Str(crossing.X), Str(crossing.Y));
 }
 
-void ExpectAt(Position found, Position expected, const std::string& what) {
+void ExpectPlace(Position found, Position expected, const std::string& what) {
     EXPECT_NEAR(found.X, expected.X, 1e-12) << what;
     EXPECT_NEAR(found.Y, expected.Y, 1e-12) << what;
 }
 void ExpectCircle(const TangentCircle& found, const TangentCircle& expected, const std::string& what) {
-    ExpectAt(found.Centre, expected.Centre, what + " centre");
-    ExpectAt(found.OnA, expected.OnA, what + " on A");
-    ExpectAt(found.OnB, expected.OnB, what + " on B");
+    ExpectPlace(found.Centre, expected.Centre, what + " centre");
+    ExpectPlace(found.OnA, expected.OnA, what + " on A");
+    ExpectPlace(found.OnB, expected.OnB, what + " on B");
 }
 
 // By hand.
@@ -78,8 +79,8 @@ TEST(GeometryTangentCircles, FarUpTheFirstCentresAreLevelWithTheCrossing) {
     EXPECT_GT(found[0].Centre.X, 0);
     EXPECT_EQ(found[0].Centre.Y, 1e17);
     for (const std::size_t i : {0U, 1U}) {
-        ExpectAt(found[i].OnA, {0, 0}, "on A");
-        ExpectAt(found[i].OnB, {0, 0}, "on B");
+        ExpectPlace(found[i].OnA, {0, 0}, "on A");
+        ExpectPlace(found[i].OnB, {0, 0}, "on B");
     }
 }
 
@@ -91,10 +92,10 @@ TEST(GeometryTangentCircles, AnUprightLineRunsDownFromItsUpperEnd) {
     for (const Segment& upright : {Segment{{0, -5}, {0, 5}}, Segment{{0, 5}, {0, -5}}}) {
         const Circles found =
             FindTangentCircles(RecordsOf(upright, {{-5, -5}, {5, 5}}), ItemAt({0, 0}), 1, Tangents::Exact);
-        ExpectAt(found[0].Centre, {-1, -far}, "1");
-        ExpectAt(found[1].Centre, {1, far}, "2");
-        ExpectAt(found[2].Centre, {-1, near}, "3");
-        ExpectAt(found[3].Centre, {1, -near}, "4");
+        ExpectPlace(found[0].Centre, {-1, -far}, "1");
+        ExpectPlace(found[1].Centre, {1, far}, "2");
+        ExpectPlace(found[2].Centre, {-1, near}, "3");
+        ExpectPlace(found[3].Centre, {1, -near}, "4");
     }
 }
 
@@ -116,8 +117,8 @@ TEST(GeometryTangentCircles, AxesByHand) {
             for (const TangentCircle& circle : exact) {
                 if (std::hypot(circle.Centre.X - x, circle.Centre.Y - y) < 1e-9) {
                     ++there;
-                    ExpectAt(circle.OnA, {x, 1}, "on the level line");
-                    ExpectAt(circle.OnB, {2, y}, "on the upright line");
+                    ExpectPlace(circle.OnA, {x, 1}, "on the level line");
+                    ExpectPlace(circle.OnB, {2, y}, "on the upright line");
                 }
             }
             EXPECT_EQ(there, 1) << x << "," << y;
@@ -138,11 +139,11 @@ TEST(GeometryTangentCircles, UprightAndSlantedByHand) {
 
 TEST(GeometryTangentCircles, LinesThatAreGoneGiveZeros) {
     const Circles found = FindTangentCircles({}, ItemAt({3, 4}), 1, Tangents::AsRuled);
-    ExpectAt(found[0].Centre, {3, 4}, "1");
-    ExpectAt(found[1].Centre, {3, 4}, "2");
+    ExpectPlace(found[0].Centre, {3, 4}, "1");
+    ExpectPlace(found[1].Centre, {3, 4}, "2");
     // All angles 0: Q is 180 and Dh the radius.
-    ExpectAt(found[2].Centre, {3, 5}, "3");
-    ExpectAt(found[3].Centre, {3, 3}, "4");
+    ExpectPlace(found[2].Centre, {3, 5}, "3");
+    ExpectPlace(found[3].Centre, {3, 3}, "4");
     EXPECT_FALSE(EveryCircleTouches({}, ItemAt({3, 4}), 1, found));
     for (const TangentCircle& circle : FindTangentCircles({}, "", 1, Tangents::Exact)) {
         EXPECT_TRUE(std::isfinite(circle.Centre.X + circle.OnA.X + circle.OnB.Y));
@@ -160,7 +161,6 @@ TEST(GeometryTangentCircles, LinesAreLookedUpByThreeCharacters) {
 // The rules written out plainly, with a not-a-number for a step that fails.
 
 constexpr double Factor = 57.2957795130824;
-constexpr double Rad = 3.14159265358979323846 / 180;
 
 void Set(double& target, double value) {
     if (std::isfinite(value)) {
@@ -420,7 +420,7 @@ TEST(GeometryTangentCircles, FollowTheRulesInEveryPosition) {
 
 // Truth by a second method.
 
-double DistanceOf(Position place, const Segment& line) {
+double DistanceTo(Position place, const Segment& line) {
     const double ax = line.End.X - line.Start.X;
     const double ay = line.End.Y - line.Start.Y;
     return std::fabs(ax * (line.Start.Y - place.Y) - ay * (line.Start.X - place.X)) / std::sqrt(ax * ax + ay * ay);
@@ -428,10 +428,10 @@ double DistanceOf(Position place, const Segment& line) {
 
 void ExpectTrue(const Circles& found, const Pairs::Pair& pair) {
     for (const TangentCircle& circle : found) {
-        ASSERT_NEAR(DistanceOf(circle.Centre, pair.A), pair.Radius, 1e-9);
-        ASSERT_NEAR(DistanceOf(circle.Centre, pair.B), pair.Radius, 1e-9);
-        ASSERT_NEAR(DistanceOf(circle.OnA, pair.A), 0, 1e-9);
-        ASSERT_NEAR(DistanceOf(circle.OnB, pair.B), 0, 1e-9);
+        ASSERT_NEAR(DistanceTo(circle.Centre, pair.A), pair.Radius, 1e-9);
+        ASSERT_NEAR(DistanceTo(circle.Centre, pair.B), pair.Radius, 1e-9);
+        ASSERT_NEAR(DistanceTo(circle.OnA, pair.A), 0, 1e-9);
+        ASSERT_NEAR(DistanceTo(circle.OnB, pair.B), 0, 1e-9);
         ASSERT_NEAR(std::hypot(circle.OnA.X - circle.Centre.X, circle.OnA.Y - circle.Centre.Y), pair.Radius, 1e-9);
         ASSERT_NEAR(std::hypot(circle.OnB.X - circle.Centre.X, circle.OnB.Y - circle.Centre.Y), pair.Radius, 1e-9);
     }

@@ -9,7 +9,7 @@ namespace brindlex::geometry {
 namespace {
 
 constexpr double Near = 1e-9;
-const Scale Plain{0, 0};  // so that picture and drawing coordinates are the same
+const Scale Centred{0, 0};  // so that picture and drawing coordinates are the same
 
 Extents ExtentsOf(const Board& board, Unit unit = Unit::Inch) {
     Extents extents;
@@ -34,7 +34,7 @@ TEST(Extents, OfNothingAreLeftAsTheyAre) {
 
 TEST(Extents, TheFirstEntitySetsThemWhateverStoodThere) {
     Board board;
-    board.EnterCircle({10, 20}, 2, 1, Plain);
+    board.EnterCircle({10, 20}, 2, 1, Centred);
     Extents extents{-100, 100, -100, 100};
     GetExtents(extents, board, Unit::Inch);
     EXPECT_EQ(extents, (Extents{8, 12, 18, 22}));
@@ -42,11 +42,11 @@ TEST(Extents, TheFirstEntitySetsThemWhateverStoodThere) {
 
 TEST(Extents, TakeCirclesLinesAndPoints) {
     Board board;
-    board.EnterCircle({0, 0}, 1, 1, Plain);
-    board.EnterCircle({3, 0}, 2, 2, Plain);
-    board.EnterLine({{4, -7}, {-2, 1}}, 3, Plain);
+    board.EnterCircle({0, 0}, 1, 1, Centred);
+    board.EnterCircle({3, 0}, 2, 2, Centred);
+    board.EnterLine({{4, -7}, {-2, 1}}, 3, Centred);
     EXPECT_EQ(ExtentsOf(board), (Extents{-2, 5, -7, 2}));
-    board.EnterPoint({-2, 6}, 4, Plain);
+    board.EnterPoint({-2, 6}, 4, Centred);
     const Extents all = ExtentsOf(board);
     EXPECT_NEAR(all.MinX, -2.0884, Near);
     EXPECT_NEAR(all.MaxY, 6.0884, Near);
@@ -55,15 +55,15 @@ TEST(Extents, TakeCirclesLinesAndPoints) {
 
 TEST(Extents, ALaterCircleOfNoRadiusIsLeftOut) {
     Board board;
-    board.EnterCircle({0, 0}, 0, 1, Plain);
+    board.EnterCircle({0, 0}, 0, 1, Centred);
     EXPECT_EQ(ExtentsOf(board), (Extents{0, 0, 0, 0}));
-    board.EnterCircle({50, 50}, 0, 2, Plain);
+    board.EnterCircle({50, 50}, 0, 2, Centred);
     EXPECT_EQ(ExtentsOf(board), (Extents{0, 0, 0, 0}));
 }
 
 TEST(Extents, OfAPointAreItsCross) {
     Board board;
-    board.EnterPoint({1, 2}, 1, Plain);
+    board.EnterPoint({1, 2}, 1, Centred);
     const Extents millimeters = ExtentsOf(board, Unit::Millimeter);
     EXPECT_NEAR(millimeters.MinX, 1 - 2.24536, Near);
     EXPECT_NEAR(millimeters.MaxY, 2 + 2.24536, Near);
@@ -71,19 +71,19 @@ TEST(Extents, OfAPointAreItsCross) {
 
 TEST(Extents, WhatIsBeyondADoubleIsLeftOut) {
     Board board;
-    board.EnterCircle({1e308, 0}, 1e308, 1, Plain);
-    board.EnterLine({{0, 0}, {1, 1}}, 2, Plain);
+    board.EnterCircle({1e308, 0}, 1e308, 1, Centred);
+    board.EnterLine({{0, 0}, {1, 1}}, 2, Centred);
     EXPECT_EQ(ExtentsOf(board), (Extents{0, 1, 0, 1}));
 }
 
 TEST(ScrollRanges, AreNeverBelowTwenty) {
-    EXPECT_EQ(ScrollRangesFor({-3, 4, -5, 6}, Plain), (ScrollRanges{20, -20, -20, 20}));
-    EXPECT_EQ(ScrollRangesFor({-30, 40, -50, 60}, Plain), (ScrollRanges{60, -50, -30, 40}));
+    EXPECT_EQ(ScrollRangesFor({-3, 4, -5, 6}, Centred), (ScrollRanges{20, -20, -20, 20}));
+    EXPECT_EQ(ScrollRangesFor({-30, 40, -50, 60}, Centred), (ScrollRanges{60, -50, -30, 40}));
 }
 
 TEST(ScrollRanges, AreRoundedToEvenAndCutToSixteenBits) {
-    EXPECT_EQ(ScrollRangesFor({-20.5, 21.5, -21.5, 22.5}, Plain), (ScrollRanges{22, -22, -20, 22}));
-    EXPECT_EQ(ScrollRangesFor({-1e6, 1e6, -1e300, 1e300}, Plain), (ScrollRanges{32767, -32768, -32768, 32767}));
+    EXPECT_EQ(ScrollRangesFor({-20.5, 21.5, -21.5, 22.5}, Centred), (ScrollRanges{22, -22, -20, 22}));
+    EXPECT_EQ(ScrollRangesFor({-1e6, 1e6, -1e300, 1e300}, Centred), (ScrollRanges{32767, -32768, -32768, 32767}));
 }
 
 TEST(ScrollRanges, CountFromTheOrigin) {
@@ -91,7 +91,7 @@ TEST(ScrollRanges, CountFromTheOrigin) {
 }
 
 TEST(FitTo, AWideDrawingFillsTheWidth) {
-    const auto fit = FitTo({0, 32, 0, 2}, Plain);
+    const auto fit = FitTo({0, 32, 0, 2}, Centred);
     ASSERT_TRUE(fit);
     EXPECT_EQ(fit->View.Width, 32);
     EXPECT_NEAR(fit->View.Height, -32 * 0.53445068, Near);
@@ -100,11 +100,11 @@ TEST(FitTo, AWideDrawingFillsTheWidth) {
 }
 
 TEST(FitTo, AHighOrSquareDrawingFillsTheHeight) {
-    const auto square = FitTo({-1, 1, -1, 1}, Plain);
+    const auto square = FitTo({-1, 1, -1, 1}, Centred);
     ASSERT_TRUE(square);
     EXPECT_EQ(square->View.Height, -2);
     EXPECT_NEAR(square->View.Width, 3.74216008, Near);
-    const auto high = FitTo({0, 1, 0, 10}, Plain);
+    const auto high = FitTo({0, 1, 0, 10}, Centred);
     ASSERT_TRUE(high);
     EXPECT_NEAR(high->View.Width, 18.7108004, Near);
 }
@@ -122,12 +122,12 @@ TEST(FitTo, ASquareStaysOneUnderTheLastBitOfASum) {
 }
 
 TEST(FitTo, RefusesWhatIsTooSmallOrTooLarge) {
-    EXPECT_FALSE(FitTo({}, Plain));
-    EXPECT_FALSE(FitTo({0, 0.002, 0, 0}, Plain));
-    EXPECT_TRUE(FitTo({0, 0.0021, 0, 0}, Plain));
-    EXPECT_FALSE(FitTo({0, 31000, 0, 0}, Plain));
-    EXPECT_TRUE(FitTo({0, 30999, 0, 0}, Plain));
-    EXPECT_FALSE(FitTo({-1e308, 1e308, -1e308, 1e308}, Plain));
+    EXPECT_FALSE(FitTo({}, Centred));
+    EXPECT_FALSE(FitTo({0, 0.002, 0, 0}, Centred));
+    EXPECT_TRUE(FitTo({0, 0.0021, 0, 0}, Centred));
+    EXPECT_FALSE(FitTo({0, 31000, 0, 0}, Centred));
+    EXPECT_TRUE(FitTo({0, 30999, 0, 0}, Centred));
+    EXPECT_FALSE(FitTo({-1e308, 1e308, -1e308, 1e308}, Centred));
 }
 
 TEST(Zoom, HalvesAndDoublesBetweenItsEnds) {

@@ -11,6 +11,9 @@
 
 namespace brindlex::geometry {
 
+/// The end of a line in files.
+inline const std::string End = "\r\n";
+
 /// Each text at its column, blanks between.
 inline std::string At(const std::vector<std::pair<std::size_t, std::string>>& texts) {
     std::string line;

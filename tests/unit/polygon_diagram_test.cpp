@@ -4,6 +4,7 @@
 #include "frame/picturebox.h"
 #include "frame/program.h"
 #include "polygon/diagram.h"
+#include "radians.h"
 
 #include <gtest/gtest.h>
 
@@ -12,9 +13,6 @@
 
 namespace brindlex::polygon {
 namespace {
-
-const double Pi = std::acos(-1.0);
-const double Rad = Pi / 180;
 
 class PolygonDiagram : public ::testing::Test {
 protected:

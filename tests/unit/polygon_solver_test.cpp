@@ -2,6 +2,7 @@
 // that is built from its corners.
 #include "faultof.h"
 #include "polygon/solver.h"
+#include "radians.h"
 
 #include <gtest/gtest.h>
 
@@ -11,8 +12,6 @@
 namespace brindlex::polygon {
 namespace {
 
-const double Pi = std::acos(-1.0);
-const double Rad = Pi / 180;
 constexpr DimensionType Flats = DimensionType::AcrossFlats;
 constexpr DimensionType Corner = DimensionType::FlatToCorner;
 constexpr DimensionType OneFlat = DimensionType::OneFlat;

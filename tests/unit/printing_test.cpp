@@ -11,9 +11,9 @@
 namespace brindlex {
 namespace {
 
-class SampleForm : public Form {
+class PrintedForm : public Form {
 public:
-    explicit SampleForm(Program& program) : Form(program, "Sample", 6000, 3000) {
+    explicit PrintedForm(Program& program) : Form(program, "Sample", 6000, 3000) {
         Picture2.Visible(false);
         PrntWin.Click.Bind([this] { PrintWindow(*this, Picture2, CommonDialog1); });
         PrntPic.Click.Bind([this] {
@@ -43,8 +43,8 @@ Snapshot PictureOf(double width, double height) {
 class Printing : public ::testing::Test {
 protected:
     Printing() {
-        program.Register<SampleForm>("Sample");
-        SampleForm& sample = form();
+        program.Register<PrintedForm>("Sample");
+        PrintedForm& sample = form();
         sample.Show();
         sample.Caption("Brindlex 3.0.2- Sample");
         sample.Text4.Visible(false);
@@ -52,7 +52,7 @@ protected:
         program.Runtime.Portrait = {10000, 14000};
     }
 
-    SampleForm& form() { return program.Get<SampleForm>("Sample"); }
+    PrintedForm& form() { return program.Get<PrintedForm>("Sample"); }
     PrinterObject& printer() { return program.Owner.Printer(); }
 
     void Answer(std::optional<PrinterChoice> choice) { program.Run.Printers.push_back(choice); }

@@ -10,7 +10,7 @@ namespace {
 
 using List = std::vector<std::string>;
 
-std::string WordsOf(const std::function<void()>& step) {
+std::string RefusalOf(const std::function<void()>& step) {
     try {
         step();
     } catch (const ScriptError& error) {
@@ -187,7 +187,7 @@ TEST_F(PropertiesTest, Refusals) {
         {[&] { (void)ReadProperty(form_.Command1, "text"); }, "Command1 has no property text"},
     };
     for (const auto& row : rows) {
-        EXPECT_EQ(WordsOf(row.step), row.words);
+        EXPECT_EQ(RefusalOf(row.step), row.words);
     }
     EXPECT_EQ(form_.Text1.Text(), "abc");
     EXPECT_TRUE(stand_.Heard.empty());

@@ -107,17 +107,17 @@ using Names = std::vector<std::string>;
 constexpr int Always = 1'000'000;
 
 /// What a rewrite of f.txt from "old" to "new" ends in under a failing system, and what stands there then.
-struct Outcome {
+struct RewriteOutcome {
     std::string words;
     std::string content;
-    bool operator==(const Outcome&) const = default;
+    bool operator==(const RewriteOutcome&) const = default;
 };
 
-std::ostream& operator<<(std::ostream& stream, const Outcome& outcome) {
+std::ostream& operator<<(std::ostream& stream, const RewriteOutcome& outcome) {
     return stream << '"' << outcome.words << "\", \"" << outcome.content << '"';
 }
 
-Outcome Rewritten(const TestFolder& folder, Durability durability = Durability::Disk) {
+RewriteOutcome Rewritten(const TestFolder& folder, Durability durability = Durability::Disk) {
     const std::string words = WordsOf([&] { folder.Files().Rewrite("f.txt", "new", durability); });
     EXPECT_EQ(folder.Names(), Names{"f.txt"});
     return {words, folder.Get("f.txt")};
@@ -129,7 +129,7 @@ TEST(RewriteFaults, EachCallInTurn) {
         int error;
         int first;
         int times;
-        Outcome outcome;
+        RewriteOutcome outcome;
     } cases[] = {
         {"write", ENOSPC, 1, 1, {"No space left on device", "old"}},
         {"write", EINTR, 1, 3, {"", "new"}},
@@ -177,7 +177,7 @@ TEST(RewriteFaults, TheDiskIsWaitedForWhereThatIsWanted) {
         const TestFolder folder;
         folder.Put("f.txt", "old");
         const Failing counting("fsync", 0, Always);
-        EXPECT_EQ(Rewritten(folder, c.durability), (Outcome{"", "new"}));
+        EXPECT_EQ(Rewritten(folder, c.durability), (RewriteOutcome{"", "new"}));
         EXPECT_EQ(counting.Calls(), c.syncs);
     }
 }
@@ -208,7 +208,7 @@ TEST(RewriteFaults, AnotherOwnerIsKeptWhereThatCanBe) {
         folder.Put("f.txt", "old");
         const Failing different(other, 0);
         const Failing refused("fchown", EPERM);
-        EXPECT_EQ(Rewritten(folder), (Outcome{"", "new"})) << other;
+        EXPECT_EQ(Rewritten(folder), (RewriteOutcome{"", "new"})) << other;
         EXPECT_EQ(different.Calls(), 1) << other;
         EXPECT_EQ(refused.Calls(), 1) << other;
     }
@@ -217,14 +217,14 @@ TEST(RewriteFaults, AnotherOwnerIsKeptWhereThatCanBe) {
         folder.Put("f.txt", "old");
         const Failing different("other user", 0);
         const Failing granted("fchown for another", 0);
-        EXPECT_EQ(Rewritten(folder), (Outcome{"", "new"}));
+        EXPECT_EQ(Rewritten(folder), (RewriteOutcome{"", "new"}));
         EXPECT_EQ(granted.Calls(), 1);
     }
     const TestFolder folder;
     folder.Put("f.txt", "old");
     // The same owner is not set again.
     const Failing counting("fchown", EPERM);
-    EXPECT_EQ(Rewritten(folder), (Outcome{"", "new"}));
+    EXPECT_EQ(Rewritten(folder), (RewriteOutcome{"", "new"}));
     EXPECT_EQ(counting.Calls(), 0);
 }
 
@@ -245,13 +245,13 @@ TEST(RewriteFaults, TheFirstDescriptorIsAsGoodAsAnother) {
     const int kept = ::dup(0);
     ::close(0);
     const Failing counting("fsync", 0, Always);
-    const Outcome outcome = Rewritten(folder);
+    const RewriteOutcome outcome = Rewritten(folder);
     const int again = ::open("/dev/null", O_RDONLY | O_CLOEXEC);
     if (kept >= 0) {
         ::dup2(kept, 0);
         ::close(kept);
     }
-    EXPECT_EQ(outcome, (Outcome{"", "new"}));
+    EXPECT_EQ(outcome, (RewriteOutcome{"", "new"}));
     EXPECT_EQ(counting.Calls(), 2);
     EXPECT_EQ(again, 0);  // it was closed
 }

@@ -1,6 +1,7 @@
 // The nine cases of the right triangle, their limits and refusals. Expected values come from Pythagorean triples and
 // from the exact sines of 30, 45 and 60 degrees.
 #include "frame/fault.h"
+#include "radians.h"
 #include "righttri/solver.h"
 
 #include <gtest/gtest.h>
@@ -13,7 +14,6 @@
 namespace brindlex::righttri {
 namespace {
 
-constexpr double Rad = std::numbers::pi / 180;
 constexpr double Root3 = 1.7320508075688772;
 constexpr double Tolerance = 1e-9;
 // The acute angles of the 3-4-5 triangle.

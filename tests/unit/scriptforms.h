@@ -250,4 +250,9 @@ private:
     Program program_;
 };
 
+/// What the handlers heard behind the start.
+inline Log HeardOf(const ScriptStand& stand) {
+    return {stand.Heard.begin() + 2, stand.Heard.end()};
+}
+
 }  // namespace brindlex

@@ -1,6 +1,7 @@
 // Gauge-block buildups: the order of the checks, and buildups worked out by hand and by another formula.
 // Units: degrees; spacing in inches, buildups in inches or millimeters.
 #include "faultof.h"
+#include "radians.h"
 #include "sineplate/solver.h"
 
 #include <gtest/gtest.h>
@@ -12,8 +13,6 @@
 namespace brindlex::sineplate {
 namespace {
 
-const double Pi = std::acos(-1.0);
-const double Rad = Pi / 180;
 constexpr double Inch = 1;
 constexpr double Millimeter = 25.4;
 

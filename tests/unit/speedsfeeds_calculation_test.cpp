@@ -1,4 +1,5 @@
 // Spindle speed, feed rate, removal rate, time in cut and power; the checks before them; ranges and conversions.
+#include "radians.h"
 #include "speedsfeeds/calculation.h"
 
 #include "faultof.h"
@@ -14,8 +15,6 @@
 
 namespace brindlex::speedsfeeds {
 namespace {
-
-const double Pi = 4 * std::atan(1.0);
 
 Entries Inch() {
     Entries entries;

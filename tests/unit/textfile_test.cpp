@@ -25,7 +25,7 @@ std::string EveryByte() {
     return text;
 }
 
-std::vector<std::string> Lines(InputFile file) {
+std::vector<std::string> LinesOf(InputFile file) {
     std::vector<std::string> lines;
     while (!file.Eof()) {
         lines.push_back(file.LineInput());
@@ -174,7 +174,7 @@ TEST(InputFile, KnowsThreeLineEnds) {
     };
     for (const auto& c : cases) {
         folder.Put("in.txt", c.content);
-        EXPECT_EQ(Lines(folder.Files().OpenInput("in.txt")), c.lines) << c.content;
+        EXPECT_EQ(LinesOf(folder.Files().OpenInput("in.txt")), c.lines) << c.content;
     }
 }
 
@@ -187,7 +187,7 @@ TEST(InputFile, LineEndsAcrossItsBuffer) {
         content += lines.back() + "\r\n";
     }
     folder.Put("in.txt", content);
-    EXPECT_EQ(Lines(folder.Files().OpenInput("in.txt")), lines);
+    EXPECT_EQ(LinesOf(folder.Files().OpenInput("in.txt")), lines);
 }
 
 TEST(InputFile, ReadsAMillionLines) {
@@ -263,7 +263,7 @@ TEST(OutputFile, EveryByteComesBack) {
     OutputFile file = folder.Files().OpenOutput("bytes.txt");
     file.Print(text);
     file.Close();
-    EXPECT_EQ(Lines(folder.Files().OpenInput("bytes.txt")), std::vector<std::string>{text});
+    EXPECT_EQ(LinesOf(folder.Files().OpenInput("bytes.txt")), std::vector<std::string>{text});
 }
 
 TEST(OutputFile, AFullDiskIsAFault) {

@@ -29,7 +29,7 @@ std::string GeometryLine(int number, const std::string& values, const std::strin
     return line + values + kind + "\r\n";
 }
 
-std::string Drawing() {
+std::string SampleDrawing() {
     const auto value = [](std::string text) {
         text.resize(28, ' ');
         return text;
@@ -51,7 +51,7 @@ void Fill(const std::filesystem::path& folder) {
     write("c.bcf", "0\r\n0\r\n5\r\n6\r\n30\r\n 0 \r\n");
     write("d.sin", "5\"\r\nTrue\r\nFalse\r\n30\r\n\r\n");
     write("e.pgf", "7\r\nTrue\r\nFalse\r\nTrue\r\nFalse\r\nFalse\r\n1\r\n");
-    write("f.geo", Drawing());
+    write("f.geo", SampleDrawing());
     using namespace std::string_literals;
     write("rubbish", "\0\x01\xFF rubbish\r\n\r\n1e999\r\n"s);
     std::filesystem::create_directory(folder / "folder");
