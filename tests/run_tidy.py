@@ -1,14 +1,18 @@
 #!/usr/bin/env python3
-"""Runs clang-tidy over src/, one file a processor: run_tidy.py BUILD_FOLDER [SOURCE...]
+"""Runs clang-tidy over src/: run_tidy.py BUILD_FOLDER [SOURCE...]
 
-BUILD_FOLDER holds compile_commands.json. A file that was clean is not read again until it, a header of ours that it
-reaches, its compile command, .clang-tidy or clang-tidy itself changes; the memory of that is build/tidy.
+BUILD_FOLDER holds compile_commands.json. The sources of a room that are compiled alike are read several at a time, since
+most of the time goes into the headers they share; so no two files of a room may give one name to two things. A source
+that is named is read alone. What was clean is not read again until a source, a header of ours that it reaches, its
+compile command, .clang-tidy or clang-tidy itself changes; the memory of that is build/tidy.
 """
 
 import hashlib
+import itertools
 import json
 import pathlib
 import re
+import shlex
 import subprocess
 import sys
 
@@ -18,6 +22,8 @@ ROOT = pathlib.Path(__file__).resolve().parent.parent
 SOURCES = ROOT / "src"
 MEMORY = ROOT / "build" / "tidy"
 INCLUDE = re.compile(rb'^\s*#\s*include\s*"([^"]+)"', re.MULTILINE)
+MOST = 12             # sources in one go: a processor's share of a large room
+NOT_OF_SEVERAL = "-bugprone-suspicious-include"   # which is how they are put together
 
 
 def reached(path, seen):
@@ -30,29 +36,65 @@ def reached(path, seen):
             reached(folder / name.decode(), seen)
 
 
-def fingerprint(entry, general):
-    seen = {}
-    reached(pathlib.Path(entry["file"]), seen)
-    digest = hashlib.sha256(general)
-    digest.update(entry.get("command", "").encode())
-    for path in sorted(seen):
-        digest.update(str(path).encode() + b"\0" + seen[path] + b"\0")
-    return digest.hexdigest()
+def arguments_of(entry):
+    """What the compiler is told of a source, without the source and the object."""
+    words = shlex.split(entry["command"])
+    del words[words.index("-o"):words.index("-o") + 2]
+    return tuple(word for word in words[1:] if word not in ("-c", entry["file"]))
 
 
-def check(entry, build, general):
-    """Whether the file is clean."""
-    mark = MEMORY / fingerprint(entry, general)
-    if mark.exists():
-        mark.touch()
-        return True
-    done = subprocess.run(["clang-tidy", "--quiet", "-p", str(build), entry["file"]], stdin=subprocess.DEVNULL,
-                          stdout=subprocess.PIPE, stderr=subprocess.PIPE, check=False)
-    if done.returncode == 0:
-        mark.touch()
-        return True
-    harness.tell_failure(str(pathlib.Path(entry["file"]).relative_to(ROOT)), done.stdout or done.stderr)
-    return False
+class Batch:
+    """Sources that are read in one go."""
+
+    def __init__(self, arguments, sources):
+        self.arguments, self.sources = arguments, sources
+
+    def name(self):
+        return ", ".join(str(path.relative_to(SOURCES)) for path in self.sources)
+
+    def fingerprint(self, general):
+        seen = {}
+        for path in self.sources:
+            reached(path, seen)
+        digest = hashlib.sha256(general)
+        digest.update(repr(self.arguments).encode() + repr(self.sources).encode())
+        for path in sorted(seen):
+            digest.update(str(path).encode() + b"\0" + seen[path] + b"\0")
+        return digest.hexdigest()
+
+    def command(self, mark):
+        if len(self.sources) == 1:
+            return ["clang-tidy", "--quiet", str(self.sources[0]), "--", *self.arguments]
+        together = mark.with_suffix(".cpp")
+        together.write_text("".join(f'#include "{path}"\n' for path in self.sources), encoding="ascii")
+        return ["clang-tidy", "--quiet", f"--config-file={ROOT / '.clang-tidy'}", f"--checks={NOT_OF_SEVERAL}",
+                str(together), "--", *self.arguments]
+
+    def is_clean(self, general):
+        mark = MEMORY / self.fingerprint(general)
+        if mark.exists():
+            mark.touch()
+            return True
+        done = subprocess.run(self.command(mark), stdin=subprocess.DEVNULL, stdout=subprocess.PIPE,
+                              stderr=subprocess.PIPE, check=False)
+        mark.with_suffix(".cpp").unlink(missing_ok=True)
+        if done.returncode == 0:
+            mark.touch()
+            return True
+        harness.tell_failure(self.name(), done.stdout or done.stderr)
+        return False
+
+
+def batches_of(entries, most):
+    def alike(entry):
+        return pathlib.Path(entry["file"]).parent, arguments_of(entry)
+
+    for (_, arguments), group in itertools.groupby(sorted(entries, key=alike), alike):
+        sources = sorted(pathlib.Path(entry["file"]) for entry in group)
+        # Of one size as nearly as can be, so that no processor waits for the last.
+        count = -(-len(sources) // most)
+        for i in range(count):
+            yield Batch(arguments, sources[i::count])
 
 
 def main():
@@ -66,9 +108,11 @@ def main():
     version = b"\n".join(line for line in version.splitlines() if b"CPU" not in line)
     general = version + (ROOT / ".clang-tidy").read_bytes()
     MEMORY.mkdir(parents=True, exist_ok=True)
-    results = harness.in_parallel(lambda entry: check(entry, build, general), entries)
-    print(f"clang-tidy: {results.count(True)} of {len(results)} files clean")
-    sys.exit(0 if all(results) else 1)
+    batches = sorted(batches_of(entries, 1 if wanted else MOST), key=lambda batch: -len(batch.sources))
+    results = harness.in_parallel(lambda batch: batch.is_clean(general), batches)
+    count = sum(len(batch.sources) for batch in batches)
+    print(f"clang-tidy: {count} files in {len(results)} goes, {results.count(True)} of them clean")
+    sys.exit(0 if results and all(results) else 1)
 
 
 main()
