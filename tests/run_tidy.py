@@ -3,7 +3,7 @@
 
 BUILD_FOLDER holds compile_commands.json. The sources of a room that are compiled alike are read several at a time, since
 most of the time goes into the headers they share; so no two files of a room may give one name to two things. A source
-that is named is read alone. What was clean is not read again until a source, a header of ours that it reaches, its
+that is named is read alone, and only there a using-declaration that nobody uses is seen. What was clean is not read again until a source, a header of ours that it reaches, its
 compile command, .clang-tidy or clang-tidy itself changes; the memory of that is build/tidy.
 """
 
@@ -23,6 +23,7 @@ SOURCES = ROOT / "src"
 MEMORY = ROOT / "build" / "tidy"
 INCLUDE = re.compile(rb'^\s*#\s*include\s*"([^"]+)"', re.MULTILINE)
 MOST = 12             # sources in one go: a processor's share of a large room
+MAIN = "\nint main("   # of which there is one in a program
 NOT_OF_SEVERAL = "-bugprone-suspicious-include"   # which is how they are put together
 
 
@@ -91,6 +92,9 @@ def batches_of(entries, most):
 
     for (_, arguments), group in itertools.groupby(sorted(entries, key=alike), alike):
         sources = sorted(pathlib.Path(entry["file"]) for entry in group)
+        programs = [path for path in sources if MAIN in path.read_text(encoding="utf-8")]
+        yield from (Batch(arguments, [path]) for path in programs)
+        sources = [path for path in sources if path not in programs]
         # Of one size as nearly as can be, so that no processor waits for the last.
         count = -(-len(sources) // most)
         for i in range(count):
