@@ -8,7 +8,7 @@ tests/fuzz/corpus/NAME, words from tests/fuzz/NAME.dict; what reads alone (X_rea
 where it has none of its own. What earlier runs found is kept in tests/fuzz/corpus/NAME.tar.gz. What a run finds new
 stays in FOLDER/../corpus/NAME, and with --keep the inputs there that reach something of their own take the place of the
 kept ones. An input that breaks the program is left in FOLDER/../findings. With --alike no input is weighed before
-another, and none is replaced by a shorter one that reaches the same: the quickest readers then run twice as often.
+another: the quickest readers then run twice as often.
 """
 
 import argparse
@@ -47,7 +47,7 @@ def command_of(program, options):
     unpack(name, learnt)
     limit = [f"-runs={options.runs}", f"-max_len={LONGEST}"] if options.runs else []
     limit += [f"-max_total_time={options.seconds}"] if options.seconds else []
-    limit += ["-entropic=0", "-reduce_inputs=0"] if options.alike else []
+    limit += ["-entropic=0"] if options.alike else []
     command = [str(program), *limit, "-timeout=20", "-rss_limit_mb=3000", "-print_final_stats=1",
                f"-artifact_prefix={findings}/{name}-", str(learnt)]
     seeds, words = kept(name, lambda own: SOURCES / "corpus" / own), kept(name, lambda own: SOURCES / f"{own}.dict")
