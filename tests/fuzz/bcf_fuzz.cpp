@@ -5,7 +5,6 @@
 
 #include "boltcircle/form8.h"
 
-#include <cmath>
 #include <cstddef>
 #include <cstdint>
 #include <iterator>
@@ -18,14 +17,9 @@ using namespace brindlex;
 using boltcircle::Form8;
 
 void CheckForm(const Form8& form, const DrivenRun& run) {
-    Demand(!form.Owner().Ended());
+    DemandNoFault(form, run);
     Demand(form.Units.Enabled() == (form.Check1.Value() == 0));
-    for (const DrawItem& item : form.Picture1.Drawn().Items()) {
-        Demand(std::isfinite(item.X1) && std::isfinite(item.Y1) && std::isfinite(item.X2) && std::isfinite(item.Y2));
-    }
-    for (const MessageBox& box : run.Boxes) {
-        Demand(box.Text.find("Run-time error") == std::string::npos);
-    }
+    DemandFinite(form.Picture1);
 }
 
 std::vector<std::string> EntriesOf(const Form8& form) {
@@ -74,10 +68,7 @@ void Act(Form8& form, DrivenRun& run, char letter) {
             form.Text5.Text(form.Text5.Text() + "\xB0  30'  15\"");
             break;
         default:
-            run.Printers.emplace_back(PrinterChoice{1, 0, 0});
-            items[static_cast<unsigned char>(letter) % std::size(items)]->FireClick();
-            run.Printers.clear();
-            run.Printed.clear();
+            ChooseWithPrinter(*items[static_cast<unsigned char>(letter) % std::size(items)], run);
     }
     CheckForm(form, run);
 }

@@ -1,9 +1,14 @@
-// What the fuzzers of brindlex-cli share: a demand that says what is broken, words, and one run of a command.
+// What the fuzzers of brindlex-cli share: a demand that says what is broken, words, the order that an input is, and one
+// run of a command.
 #pragma once
+
+#include "readfuzz.h"
 
 #include "cli/commandline.h"
 
 #include <algorithm>
+#include <cstddef>
+#include <cstdint>
 #include <cstdio>
 #include <cstdlib>
 #include <span>
@@ -28,6 +33,24 @@ inline std::vector<std::string> Split(std::string_view text, char mark) {
         text.remove_prefix(std::min(end + 1, text.size()));
     }
     return parts;
+}
+
+/// An input whose first line is words parted by tabs, the first of them what is to be done.
+struct Order {
+    std::string Deed;
+    std::vector<std::string> Options;
+    std::string_view Rest;
+};
+
+inline Order OrderOf(const std::uint8_t* data, std::size_t size) {
+    Order order;
+    order.Rest = TextOf(data, size);
+    order.Options = Split(TakeLine(order.Rest), '\t');
+    if (!order.Options.empty()) {
+        order.Deed = order.Options.front();
+        order.Options.erase(order.Options.begin());
+    }
+    return order;
 }
 
 /// How a command ended: done, or a reason in one line and the code that goes with it.

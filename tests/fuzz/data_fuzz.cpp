@@ -112,21 +112,17 @@ void Merge(const ScratchFolder& scratch, const std::string& file, const std::str
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     using namespace brindlex;
     static const ScratchFolder scratch;
-    std::string_view text = TextOf(data, size);
-    const std::string_view line = TakeLine(text);
-    std::vector<std::string> words = cli::Split(line, '\t');
+    cli::Order order = cli::OrderOf(data, size);
+    const auto names = [](const std::string& option) { return option.find("--merge") != std::string::npos; };
     // Merges are asked for by the letter; the words could name any file.
-    if (words.empty() || words[0].empty() || line.find("--merge") != std::string_view::npos) {
+    if (order.Deed.empty() || std::any_of(order.Options.begin(), order.Options.end(), names)) {
         return 0;
     }
-    const char deed = words[0][0];
-    words.erase(words.begin());
-    const std::string content(text.substr(0, text.find('\f')));
-    text.remove_prefix(std::min(content.size() + 1, text.size()));
+    const std::string content(TakeUpTo(order.Rest, '\f'));
     const std::string file = scratch.Put(cli::File, content);
-    switch (deed) {
+    switch (order.Deed[0]) {
         case 'l':
-            cli::List(file, words);
+            cli::List(file, order.Options);
             break;
         case 'c':
             cli::Check(file);
@@ -135,7 +131,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
             cli::ThereAndBack(scratch, file, cli::LinesIn(content));
             break;
         default:
-            cli::Merge(scratch, file, content, text);
+            cli::Merge(scratch, file, content, order.Rest);
             return 0;
     }
     cli::Require(scratch.Content(cli::File) == content, "looking changes nothing");

@@ -242,21 +242,19 @@ void Report(const std::string& file) {
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     using namespace brindlex;
     static const ScratchFolder scratch;
-    std::string_view text = TextOf(data, size);
-    std::vector<std::string> words = cli::Split(TakeLine(text), '\t');
-    if (words.empty() || words[0].size() != 2) {
+    const cli::Order order = cli::OrderOf(data, size);
+    if (order.Deed.size() != 2) {
         return 0;
     }
-    const std::string kind = words[0];
-    words.erase(words.begin());
-    const bool isDrawing = kind[0] != 'b';
-    const std::string file = scratch.Put(isDrawing ? "a.geo" : "a.bcf", isDrawing ? cli::Spread(text) : text);
-    if (kind[0] == 'r') {
+    const bool isDrawing = order.Deed[0] != 'b';
+    const std::string file =
+        isDrawing ? scratch.Put("a.geo", cli::Spread(order.Rest)) : scratch.Put("a.bcf", order.Rest);
+    if (order.Deed[0] == 'r') {
         cli::Report(file);
     }
     for (const auto& form : cli::Forms) {
-        if (form.Letter == kind[1]) {
-            cli::Export(file, form, words);
+        if (form.Letter == order.Deed[1]) {
+            cli::Export(file, form, order.Options);
         }
     }
     return 0;

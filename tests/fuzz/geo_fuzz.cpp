@@ -7,7 +7,6 @@
 #include "geometry/form18.h"
 
 #include <algorithm>
-#include <cmath>
 #include <cstddef>
 #include <cstdint>
 #include <string>
@@ -22,14 +21,9 @@ constexpr std::size_t MostActs = 8;
 constexpr std::size_t LongestFile = 20000;
 
 void CheckForm(const Form17& form, const DrivenRun& run) {
-    Demand(!form.Owner().Ended());
+    DemandNoFault(form, run);
     Demand(form.InchTo.Checked() != form.MM.Checked());
-    for (const DrawItem& item : form.Picture1.Drawn().Items()) {
-        Demand(std::isfinite(item.X1) && std::isfinite(item.Y1) && std::isfinite(item.X2) && std::isfinite(item.Y2));
-    }
-    for (const MessageBox& box : run.Boxes) {
-        Demand(box.Text.find("Run-time error") == std::string::npos);
-    }
+    DemandFinite(form.Picture1);
 }
 
 void Press(Form17& form, const char* tool) {
@@ -87,19 +81,16 @@ void SavedComesBack(Form17& form, DrivenRun& run) {
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     static const ScratchFolder scratch;
-    const std::string_view input(reinterpret_cast<const char*>(data), std::min(size, LongestFile));
-    const std::size_t end = std::min(input.find('\n'), input.size());
-    static_cast<void>(scratch.Put("a.geo", input.substr(std::min(end + 1, input.size()))));
-    DrivenRun run;
-    HeadlessRuntime runtime(run, {1024, 768});
-    Program program(runtime, Folder(scratch.Path()));
-    RegisterForms(program);
-    auto& form = dynamic_cast<Form17&>(program.Get("Form17"));
-    form.Show();
+    std::string_view drawing = TextOf(data, std::min(size, LongestFile));
+    const std::string_view acts = TakeUpTo(drawing, '\n').substr(0, MostActs);
+    static_cast<void>(scratch.Put("a.geo", drawing));
+    FreshProgram fresh(Folder(scratch.Path()));
+    DrivenRun& run = fresh.Run();
+    auto& form = fresh.Shown<Form17>("Form17");
     run.Files.emplace_back("a.geo");
     form.ChooseByPerson(form.OpenIt);
     CheckForm(form, run);
-    for (const char act : input.substr(0, std::min(end, MostActs))) {
+    for (const char act : acts) {
         Act(form, act);
         CheckForm(form, run);
     }

@@ -1,6 +1,7 @@
 // What all fuzzers share: a demand, and the lines of an input as the readers of files part them.
 #pragma once
 
+#include <algorithm>
 #include <cmath>
 #include <cstddef>
 #include <cstdint>
@@ -27,6 +28,13 @@ inline void DemandFinite(std::initializer_list<double> values) {
 
 inline std::string_view TextOf(const std::uint8_t* data, std::size_t size) {
     return {reinterpret_cast<const char*>(data), size};
+}
+
+/// The text up to the next mark, which goes with it.
+inline std::string_view TakeUpTo(std::string_view& text, char mark) {
+    const std::string_view part = text.substr(0, text.find(mark));
+    text.remove_prefix(std::min(part.size() + 1, text.size()));
+    return part;
 }
 
 /// The text up to the next carriage return, line feed or both, which go with it.

@@ -3,19 +3,12 @@
 // a fault out, and nothing that is shown holds an infinity.
 #include "formfuzz.h"
 
-#include "app/forms.h"
-#include "frame/fault.h"
-#include "frame/program.h"
-#include "headless/headlessruntime.h"
 #include "righttri/form1.h"
 #include "righttri/solver.h"
 
 #include <array>
-#include <cmath>
 #include <cstddef>
 #include <cstdint>
-#include <filesystem>
-#include <numbers>
 #include <string>
 
 namespace {
@@ -65,9 +58,7 @@ void CheckShown(const Form1& form, const Lines& lines) {
             Demand(!NamesNoNumber(box->Text()));
         }
     }
-    for (const DrawItem& item : form.Picture1.Drawn().Items()) {
-        Demand(std::isfinite(item.X1) && std::isfinite(item.Y1) && std::isfinite(item.X2) && std::isfinite(item.Y2));
-    }
+    DemandFinite(form.Picture1);
 }
 
 }  // namespace
@@ -75,17 +66,13 @@ void CheckShown(const Form1& form, const Lines& lines) {
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     const Lines lines = LinesOf(std::string(data, data + size));
     static const ScratchFolder scratch;
-    DrivenRun run;
-    HeadlessRuntime runtime(run, {1024, 768});
-    Program program(runtime, Folder(scratch.Path()));
-    RegisterForms(program);
-    auto& form = dynamic_cast<Form1&>(program.Get("Form1"));
-    form.Show();
+    FreshProgram fresh(Folder(scratch.Path()));
+    auto& form = fresh.Shown<Form1>("Form1");
     form.Combo1.Text(CaseOf(lines[0]));
     form.Text1.Text(lines[1]);
     form.Text2.Text(lines[2]);
     form.Command1.Value(true);
-    Demand(!program.Ended());
+    DemandNoFault(form, fresh.Run());
     CheckShown(form, lines);
     ChooseItems(form, lines[3]);
     CheckShown(form, lines);
