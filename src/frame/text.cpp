@@ -241,9 +241,7 @@ std::string Str(double number) {
     const int exponent = form.point - 1;
     const bool plain = exponent >= LowestPlainExponent && exponent <= HighestPlainExponent;
     const int point = plain ? form.point : 1;
-    if (point > 0) {
-        AppendDigits(text, form, 0, point);
-    }
+    AppendDigits(text, form, 0, point);  // none for a number below 1
     if (form.count > point) {
         text += '.';
         AppendDigits(text, form, point, form.count);

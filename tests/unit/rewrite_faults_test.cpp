@@ -65,6 +65,10 @@ int fstat(int file, struct stat* status) noexcept {
     return done;
 }
 
+int stat(const char* path, struct stat* status) noexcept {
+    return Failing::At("stat") ? -1 : ::fstatat(AT_FDCWD, path, status, 0);
+}
+
 int access(const char* path, int mode) noexcept {
     return Failing::At("access") ? -1 : ::faccessat(AT_FDCWD, path, mode, 0);
 }
@@ -138,6 +142,7 @@ TEST(RewriteFaults, EachCallInTurn) {
         {"write nothing", 0, 1, 1, {"Input/output error", "old"}},
         {"fchmod", EPERM, 1, 1, {"", "new"}},
         {"fstat", EIO, 1, 1, {"", "new"}},
+        {"stat", EIO, 1, Always, {"Input/output error", "old"}},
         {"fsync", EINTR, 1, 2, {"", "new"}},
         {"fsync", EIO, 1, 1, {"Input/output error", "old"}},
         {"fsync", EIO, 2, 1, {"", "new"}},  // of the folder: the new file is in its place already
@@ -158,6 +163,20 @@ TEST(RewriteFaults, EachCallInTurn) {
         EXPECT_EQ(Rewritten(folder), c.outcome) << c.call << ' ' << c.error << ' ' << c.first;
         EXPECT_GE(failing.Calls(), c.first) << c.call;
     }
+}
+
+TEST(RewriteFaults, WherePermissionsCannotBeTakenOverTheFileIsItsOwnersAlone) {
+    const TestFolder folder;
+    folder.Put("f.txt", "old");
+    ASSERT_EQ(::chmod((folder.Path() / "f.txt").c_str(), 0666), 0);
+    const mode_t mask = ::umask(0);
+    {
+        const Failing failing("fchmod", EPERM);
+        EXPECT_EQ(Rewritten(folder), (RewriteOutcome{"", "new"}));
+    }
+    ::umask(mask);
+    EXPECT_EQ(std::filesystem::status(folder.Path() / "f.txt").permissions(),
+              std::filesystem::perms::owner_read | std::filesystem::perms::owner_write);
 }
 
 TEST(RewriteFaults, AsManyNamesAreTriedAsTheCommentSays) {

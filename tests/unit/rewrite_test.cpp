@@ -77,6 +77,10 @@ TEST(Rewrite, ANewFileHasTheUsersMask) {
     folder.Files().Rewrite("f.txt", "new");
     ::umask(mask);
     EXPECT_EQ(ModeOf(folder.Path() / "f.txt"), 0640U);
+    const mode_t same = ::umask(0);
+    folder.Files().Rewrite("open.txt", "new");
+    ::umask(same);
+    EXPECT_EQ(ModeOf(folder.Path() / "open.txt"), 0666U);
 }
 
 TEST(Rewrite, FollowsLinks) {

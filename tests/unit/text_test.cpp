@@ -95,6 +95,10 @@ TEST(Val, UnderflowIsNoFault) {
     EXPECT_EQ(Val("4.94065645841247E-324"), Limits::denorm_min());
     EXPECT_EQ(Val("1" + zeros + "E-400"), 1.0);
     EXPECT_EQ(Val("." + zeros + "1E401"), 1.0);
+    // What ends the number ends it before the exponent too: a second point, and the first character behind the digits.
+    for (const char* const rest : {"1.5E900", "1:5E900", "1/5E900", "1 E900"}) {
+        EXPECT_EQ(Val("." + zeros + rest), 0.0) << rest;
+    }
 }
 
 TEST(Val, AgreesWithTheSystemsReader) {

@@ -7,6 +7,7 @@
 
 #include <gtest/gtest.h>
 
+#include <cerrno>
 #include <filesystem>
 #include <functional>
 #include <string>
@@ -88,6 +89,33 @@ TEST(CodePage, WhatItLacksIsAQuestionMark) {
     }
     // The last one of Latin-1, and the first one behind it.
     EXPECT_EQ(TextFromUtf8("\xC3\xBF\xC4\x80\xC4\x81"), "\xFF??");
+}
+
+TEST(CodePage, AtTheBoundsOfTheSequences) {
+    // One question mark for a character that it lacks, one for each byte of what is malformed.
+    const struct {
+        std::string utf8;
+        std::string text;
+    } cases[] = {
+        {"\x7F", "\x7F"},              // U+007F, the last of one byte
+        {"\xC1\xBF", "??"},            // the same in two
+        {"\xC2\x81", "\x81"},          // U+0081, the first of two bytes that the code page has
+        {"\xDF\xBF", "?"},             // U+07FF, the last of two bytes
+        {"\xE0\x9F\xBF", "???"},       // the same in three
+        {"\xE0\xA0\x80", "?"},         // U+0800, the first of three
+        {"\xE1\x80\x80", "?"},         // an odd first byte of three
+        {"\xEF\xBF\xBF", "?"},         // U+FFFF, the last of three
+        {"\xF0\x8F\xBF\xBF", "????"},  // the same in four
+        {"\xF0\x90\x80\x80", "?"},     // U+10000, the first of four
+        {"\xF1\x80\x80\x80", "?"},     // an odd first byte of four
+        {"\xF4\x8F\xBF\xBF", "?"},     // U+10FFFF, the last of all
+        {"\xF8\x80\x80\x80", "????"},  // no first byte
+        {"\xF8\x90\x80\x80\x80", "?????"},
+    };
+    for (const auto& c : cases) {
+        EXPECT_EQ(TextFromUtf8(c.utf8), c.text) << testing::PrintToString(c.utf8);
+        EXPECT_EQ(TextFromUtf8("a" + c.utf8 + "z"), "a" + c.text + "z") << testing::PrintToString(c.utf8);
+    }
 }
 
 TEST(PrintLine, CommaMovesToTheNextZone) {
@@ -212,8 +240,10 @@ TEST(InputFile, FaultsPastTheEnd) {
     InputFile file = folder.Files().OpenInput("in.txt");
     EXPECT_EQ(file.LineInput(), "only");
     EXPECT_TRUE(file.Eof());
-    EXPECT_EQ(FaultOf([&] { static_cast<void>(file.LineInput()); }), FaultNumber::FileIo);
-    EXPECT_EQ(FaultOf([&] { static_cast<void>(file.LineInput()); }), FaultNumber::FileIo);
+    for (int i = 0; i < 2; ++i) {
+        EXPECT_EQ(FaultOf([&] { static_cast<void>(file.LineInput()); }), FaultNumber::FileIo);
+        EXPECT_EQ(WordsOf([&] { static_cast<void>(file.LineInput()); }), "Input past end of file");
+    }
 }
 
 TEST(InputFile, GivesTheBytesThatAreLeft) {
@@ -284,7 +314,30 @@ TEST(OutputFile, FaultsWhenItIsClosed) {
     const TestFolder folder;
     OutputFile file = folder.Files().OpenOutput("out.txt");
     file.Close();
-    EXPECT_EQ(FaultOf([&] { file.Print("late"); }), FaultNumber::FileIo);
+    // The system refused nothing: the fault is not that of an earlier call elsewhere.
+    const std::function<void()> late = [&] {
+        errno = EACCES;
+        file.Print("late");
+    };
+    EXPECT_EQ(FaultOf(late), FaultNumber::FileIo);
+    EXPECT_EQ(WordsOf(late), "Device I/O error");
+}
+
+TEST(OutputFile, ClosingWhatHasFailedIsAFaultOfItsOwn) {
+    if (!fs::exists("/dev/full")) {
+        GTEST_SKIP() << "no /dev/full here";
+    }
+    const TestFolder folder;
+    OutputFile file = folder.Files().OpenOutput("/dev/full");
+    EXPECT_EQ(WordsOf([&] { file.Print(std::string(1000000, 'x')); }), "No space left on device");
+    try {
+        errno = EACCES;  // of another call, meanwhile
+        file.Close();
+        ADD_FAILURE();
+    } catch (const Fault& fault) {
+        EXPECT_EQ(fault.Number(), FaultNumber::FileIo);
+        EXPECT_STREQ(fault.what(), "Device I/O error");
+    }
 }
 
 TEST(Folder, NamesLieInIt) {
@@ -367,6 +420,8 @@ TEST(Folder, NameRenamesOntoNothing) {
     folder.Put("geo.tmp", "new");
     folder.Put("geometry.dat", "old");
     EXPECT_EQ(FaultOf([&] { folder.Files().Name("geo.tmp", "geometry.dat"); }), FaultNumber::FileIo);
+    EXPECT_EQ(WordsOf([&] { folder.Files().Name("geo.tmp", "geometry.dat"); }), "File already exists");
+    EXPECT_EQ(FaultOf([&] { folder.Files().Name("gone.tmp", "geometry.dat"); }), FaultNumber::FileNotFound);
     EXPECT_EQ(folder.Get("geometry.dat"), "old");
     EXPECT_EQ(folder.Get("geo.tmp"), "new");
     folder.Files().Kill("geometry.dat");
