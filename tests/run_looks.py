@@ -34,11 +34,24 @@ FOCUSED = [("Form11", "", ["Frame1"], "Command2"),
            ("Form12", "press Form11.Command4", ["Frame2"], "Option1"),
            ("Form12", "press Form11.Command4", ["Frame1"], "Combo1"),
            ("Form19", "press Form11.Command7", ["Frame4"], "Text9")]
+NOTES = "\n".join(["press Form11.Command3", *(f'type Form8.Text{box} "12"' for box in (1, 2, 3, 4, 5)),
+                   "press Form8.Command1", "focus Form8.Text6"])
 OUTLINED = [("Form1", "press Form11.Command1", [], "Combo1"),
             ("Form1", "press Form11.Command1", ["Frame1"], "Text2"),
             ("Form12", "press Form11.Command4", ["Frame1"], "Combo1"),
             ("Form8", "press Form11.Command3", [], "Text6"),
             ("Form8", "press Form11.Command3", [], "Check1")]
+# Form, how to get there, and labels of it, each behind the frame that it is in. All of them have words of many letters.
+CAPTIONS = [("Form1", "press Form11.Command1", ["Frame1/InputLabel1", "Frame1/InputLabel2"]),
+            ("Form2", "press Form11.Command2", ["Frame1/Label1", "Frame1/Label2", "Frame1/Label3"]),
+            ("Form8", "press Form11.Command3", ["Label1", "Label2", "Label3", "Label4", "Label5"]),
+            ("Form12", "press Form11.Command4\npress Form12.Option2\ntype Form12.Text1 \"45\"\n"
+                       "type Form12.Text2 \"60\"\npress Form12.Command1", ["Label1", "Label2", "Label3", "Label5"]),
+            ("Form16", "press Form11.Command6", ["Label2", "Label4"]),
+            ("Form17", "press Form11.Command8", ["Label20", "Label25", "Label26", "Label11", "Label12", "Label15"])]
+SPEEDS = ["Frame2/Label1", "Frame2/Label3", "Frame2/Label4", "Frame2/Label5", "Frame2/Label6", "Frame1/Label7",
+          "Frame1/Label8", "Frame1/Label9", "Frame1/Label10", "Frame4/Label13", "Frame3/Label11", "Frame3/Label12",
+          "Frame6/Label14", "Frame6/Label15", "Frame5/Label18", "Frame5/Label19", "Frame5/Label20"]
 
 
 class Picture:
@@ -102,8 +115,11 @@ class Windows:
         self.environment = dict(desktop_of(theme, "1", home), DISPLAY=os.environ["DISPLAY"])
 
     def shot(self, form, steps, around, *controls):
-        """A picture of the form after the steps, its ground, and the places of the controls in it, in pixels."""
-        asked = [f"{form}.{name}.{side}" for name in (*around, *controls) for side in ("Left", "Top", "Width", "Height")]
+        """A picture of the form after the steps, its ground, and the places of the controls in it, in pixels. What is
+        around all controls comes first; a control may name a frame of its own as FRAME/CONTROL."""
+        paths = [[*around, *name.split("/")] for name in controls]
+        names = sorted({name for path in paths for name in path})
+        asked = [f"{form}.{name}.{side}" for name in names for side in ("Left", "Top", "Width", "Height")]
         script = self.home / "looks.script"
         script.write_text("\n".join(["start", steps, f'shot {form} "looks.png"', f"show {form}.ScaleHeight"] +
                                     [f"show {what}" for what in asked]), encoding="latin-1")
@@ -116,11 +132,11 @@ class Windows:
         # A form that counts in inches has a height of few.
         pixel = PIXEL if answers[0] > 100 else PIXEL / 1440
         menu = picture.height - round(answers[0] / pixel)
-        places = [[round(value / pixel) for value in answers[at:at + 4]] for at in range(1, len(answers), 4)]
-        left = sum(place[0] for place in places[:len(around)])
-        top = sum(place[1] for place in places[:len(around)]) + menu
-        return picture, picture.at(2, picture.height - 3), [(left + x, top + y, w, h)
-                                                           for x, y, w, h in places[len(around):]]
+        places = {name: [round(value / pixel) for value in answers[1 + 4 * at:5 + 4 * at]]
+                  for at, name in enumerate(names)}
+        found = [(sum(places[name][0] for name in path), menu + sum(places[name][1] for name in path),
+                  *places[path[-1]][2:]) for path in paths]
+        return picture, picture.at(2, picture.height - 3), found
 
 
 def at_least(value, least, what):
@@ -135,6 +151,16 @@ def rings(windows):
         at_least(picture.within(place).count(ring), 60 if name in ("Check1", "Option1") else 2 * place[2] - 16,
                  f"pixels of the ring of {form}.{name}")
         at_least(contrast(ring, ground), CONTROL, "the ring")
+
+
+def notes(windows):
+    """That of a text of several lines is as wide as the others, beside its scroll bars too."""
+    picture, _, [place] = windows.shot("Form8", NOTES, [], "Text6")
+    left, top, width, height = place
+    # What is selected has the colour too.
+    inside = (left + 2, top + 2, width - 4, height - 4)
+    ring = sum(picture.within(where).count(RINGS[windows.theme]) * sign for where, sign in ((place, 1), (inside, -1)))
+    at_least(ring, 3 * (width + height), "pixels of the ring of notes")
 
 
 def link(windows):
@@ -177,16 +203,48 @@ def tools(windows):
     at_least(contrast(dot, ground), 4, "the accent of the tools")
 
 
-def larger(windows):
-    """A label that fits its place fits it at every size of the form."""
-    for width, height in ((8070, 4515), (8900, 4980), (9700, 5430), (12096, 6354)):
-        picture, ground, [place] = windows.shot("Form19", "press Form11.Command7\nmenu Form19.MMTo\n"
-                                                f"size Form19 {width} {height}", ["Frame4"], "Label13")
-        left, top, wide, high = place
-        ink = strongest(picture.within(place), ground)
-        at_least(contrast(ink, ground), WORDS, "words")
-        last = picture.within((left + wide - 1, top, 1, high))
-        assert contrast(strongest(last, ground), ground) < CONTROL, f"a label is cut on a form of {width} twips"
+def inked(picture, place, ground):
+    """The rows that have ink, of each column of the place that has any, by columns that touch. Below the line on which
+    letters stand the box of the next row may begin."""
+    left, top, width, height = place
+    islands = [[]]
+    for x in range(left, left + width):
+        rows = [y for y in range(top, top + height * 4 // 5) if contrast(picture.at(x, y), ground) > CONTROL]
+        if rows:
+            islands[-1].append(rows)
+        elif islands[-1]:
+            islands.append([])
+    return [island for island in islands if island]
+
+
+def ends_in_dots(islands):
+    """Whether the last three that touch nothing are dots of one line."""
+    heights = [{y for rows in island for y in rows} for island in islands[-3:]]
+    return len(heights) == 3 and all(len(rows) <= 2 for rows in heights) and heights[0] == heights[1] == heights[2]
+
+
+def whole(picture, ground, place, name):
+    left, top, width, height = place
+    islands = inked(picture, place, ground)
+    at_least(len(islands), 3, f"letters of {name}")
+    assert not ends_in_dots(islands), f"{name} is too narrow for its caption"
+    last = picture.within((left + width - 1, top, 1, height * 4 // 5))
+    assert contrast(strongest(last, ground), ground) < CONTROL, f"{name} is cut"
+
+
+def captions(windows):
+    """Labels have room for their words, at every size of the form that grows; a number that has none says so."""
+    shots = [(form, steps, names) for form, steps, names in CAPTIONS]
+    shots += [("Form19", f"press Form11.Command7\nmenu Form19.MMTo\nsize Form19 {width} {height}", SPEEDS)
+              for width, height in ((8070, 4515), (8900, 4980), (9700, 5430), (12096, 6354))]
+    for form, steps, names in shots:
+        picture, ground, places = windows.shot(form, steps, [], *names)
+        for name, place in zip(names, places):
+            whole(picture, ground, place, f"{form}.{name}")
+    steps = 'press Form11.Command6\ntype Form16.Text1 "{}"\npress Form16.Command1'
+    for dimension, dots in (("123456789012345", True), ("1.25", False)):
+        picture, ground, [place] = windows.shot("Form16", steps.format(dimension), [], "Label1")
+        assert ends_in_dots(inked(picture, place, ground)) == dots, f"the area for {dimension}"
 
 
 def cut(windows):
@@ -204,7 +262,7 @@ def cut(windows):
         assert len(rows) <= (2 if dots else 0), f"{side}: ink in {len(rows)} rows at the end of the box"
 
 
-CHECKS = [rings, link, outlines, disabled, tools, larger, cut]
+CHECKS = [rings, notes, link, outlines, disabled, tools, captions, cut]
 
 
 def main():

@@ -7,6 +7,11 @@
 #include "desktop/texts.h"
 #include "frame/picturebox.h"
 
+#include <QHelpEvent>
+#include <QPainter>
+#include <QStyle>
+#include <QToolTip>
+
 #include <algorithm>
 
 namespace brindlex {
@@ -15,11 +20,46 @@ namespace {
 
 // In the order of Label::Alignment.
 constexpr Qt::AlignmentFlag Alignments[] = {Qt::AlignLeft, Qt::AlignRight, Qt::AlignHCenter};
+// A hair's breadth, in pixels, that a caption may lose without a word.
+constexpr int Hair = 2;
+
+// Where a line is too long an ellipsis marks its end, as a number that lost digits may look like a whole one; the
+// pointer brings up all of it.
+class LineLabel : public QLabel {
+public:
+    using QLabel::QLabel;
+
+protected:
+    void paintEvent(QPaintEvent* event) override {
+        if (!IsCut()) {
+            QLabel::paintEvent(event);
+            return;
+        }
+        QPainter painter(this);
+        const QRect place = contentsRect();
+        style()->drawItemText(&painter, place, static_cast<int>(alignment()), palette(), isEnabled(),
+                              fontMetrics().elidedText(text(), Qt::ElideRight, place.width()), foregroundRole());
+    }
+
+    bool event(QEvent* event) override {
+        if (event->type() == QEvent::ToolTip && toolTip().isEmpty() && IsCut()) {
+            QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(), text().toHtmlEscaped(), this);
+            return true;
+        }
+        return QLabel::event(event);
+    }
+
+private:
+    [[nodiscard]] bool IsCut() const {
+        return !wordWrap() && !text().contains(u'\n') &&
+               fontMetrics().horizontalAdvance(text()) > contentsRect().width() + Hair;
+    }
+};
 
 QLabel* MakeLabel(FormWindow& window, Label& label) {
     QWidget* const inside = window.Inside(label.Container());
     if (!label.Click.IsBound()) {
-        return new QLabel(inside);
+        return new LineLabel(inside);
     }
     return new LinkLabel(inside, [&window, &label] {
         window.ByPerson([&] {

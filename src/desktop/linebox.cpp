@@ -61,6 +61,15 @@ void LineBox::MirrorText() {
 }
 
 void LineBox::MirrorSelection() {
+    ShowSelection();
+    // No two boxes look selected, whichever way the text came.
+    if (box_.SelLength() > 0 && box_.Parent().ActiveControl() != &box_) {
+        dropped_ = true;
+        deselect();
+    }
+}
+
+void LineBox::ShowSelection() {
     dropped_ = false;
     if (box_.SelLength() > 0) {
         setSelection(box_.SelStart(), box_.SelLength());
@@ -131,16 +140,46 @@ bool LineBox::IsCutAt(int x) {
     return x == place.left() ? at > 0 : at < text().size();
 }
 
-void LineBox::MarkCut(int x) {
+// Where a character begins on the line, counted from the caret, whose place is what the base tells.
+int LineBox::XOf(int position) const {
+    const auto advance = [this](int characters) { return fontMetrics().horizontalAdvance(text(), characters); };
+    return cursorRect().center().x() + 1 + advance(position) - advance(cursorPosition());
+}
+
+// The end of the line that the ellipsis takes: no half of a figure stays beside it, which may look like another one.
+QRect LineBox::Patch(int x) {
     const QRect place = TextPlace();
     const int width = fontMetrics().horizontalAdvance(Ellipsis) + Margin;
-    const QRect patch(x == place.left() ? x - Margin : x + Margin - width + 1, place.top(), width, place.height());
+    QRect patch(x == place.left() ? x - Margin : x + Margin - width + 1, place.top(), width, place.height());
+    const auto positionAt = [&](int edge) { return cursorPositionAt(QPoint(edge, place.center().y())); };
+    if (x == place.left()) {
+        int whole = positionAt(patch.right());
+        while (whole < text().size() && XOf(whole) <= patch.right()) {
+            ++whole;
+        }
+        patch.setRight(XOf(whole) - 1);
+    } else {
+        int whole = positionAt(patch.left());
+        while (whole > 0 && XOf(whole) > patch.left()) {
+            --whole;
+        }
+        patch.setLeft(XOf(whole));
+    }
+    return patch;
+}
+
+void LineBox::MarkCut(int x) {
+    if (!IsCutAt(x)) {
+        return;
+    }
+    const QRect patch = Patch(x);
     // Where the caret stands a person reads on by moving it.
-    if (IsCutAt(x) && !(hasFocus() && patch.intersects(cursorRect()))) {
+    if (!(hasFocus() && patch.intersects(cursorRect()))) {
         QPainter painter(this);
         painter.fillRect(patch, palette().base());
         painter.setPen(palette().color(QPalette::Text));
-        painter.drawText(patch, Qt::AlignCenter, QString(Ellipsis));
+        painter.drawText(patch, Qt::AlignVCenter | (x == TextPlace().left() ? Qt::AlignRight : Qt::AlignLeft),
+                         QString(Ellipsis));
     }
 }
 
@@ -187,7 +226,7 @@ void LineBox::focusInEvent(QFocusEvent* event) {
     const bool back = dropped_;
     QLineEdit::focusInEvent(event);
     if (back) {
-        MirrorSelection();
+        ShowSelection();
     }
 }
 

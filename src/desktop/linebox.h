@@ -39,8 +39,11 @@ protected:
 
 private:
     void TakeSelection();
+    void ShowSelection();
     [[nodiscard]] QRect TextPlace() const;
     [[nodiscard]] bool IsCutAt(int x);
+    [[nodiscard]] int XOf(int position) const;
+    [[nodiscard]] QRect Patch(int x);
     void MarkCut(int x);
 
     FormWindow& window_;
