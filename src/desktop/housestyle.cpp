@@ -4,10 +4,12 @@
 #include "desktop/looks.h"
 #include "desktop/readers.h"
 
+#include <QAbstractItemView>
 #include <QAbstractScrollArea>
 #include <QApplication>
 #include <QComboBox>
 #include <QPainter>
+#include <QPlainTextEdit>
 #include <QStyleOption>
 
 namespace brindlex {
@@ -15,11 +17,12 @@ namespace brindlex {
 namespace {
 
 constexpr double OutsidePoints = 9;
-constexpr double RingWidth = 2;
+constexpr int RingWidth = 2;
 constexpr double RingRounding = 2.5;
 constexpr int ButtonInset = 2;
 
 constexpr int CaptionGap = 3;
+constexpr int DividerInset = 5;
 constexpr int FullLight = 255;
 // How much of the words' colour an outline has, the rest being that of the ground: three to one in contrast, as the Web
 // Content Accessibility Guidelines ask for what shows where a control is. The base has two to one, and less when dark.
@@ -64,6 +67,22 @@ void PaintOutline(QPainter& painter, const QStyleOption& option, double strength
     painter.restore();
 }
 
+// The base draws edges and dividing lines of what pops up darker than the ground, which nobody sees when that is dark.
+void PaintPopup(QStyle::ControlElement element, const QStyleOption& option, QPainter& painter, const QWidget* widget) {
+    if (!IsDark(option.palette) || widget == nullptr || widget->windowType() != Qt::Popup) {
+        return;
+    }
+    const auto* const item = qstyleoption_cast<const QStyleOptionMenuItem*>(&option);
+    if (element == QStyle::CE_ShapedFrame) {
+        PaintOutline(painter, option, ButtonOutline);
+    } else if (element == QStyle::CE_MenuItem && item != nullptr &&
+               item->menuItemType == QStyleOptionMenuItem::Separator) {
+        const int y = option.rect.center().y();
+        painter.setPen(Towards(option.palette, ButtonOutline));
+        painter.drawLine(option.rect.left() + DividerInset, y, option.rect.right() - DividerInset, y);
+    }
+}
+
 // A button that Enter presses shows that by its outline.
 bool IsDefault(const QStyleOption& option) {
     const auto* const button = qstyleoption_cast<const QStyleOptionButton*>(&option);
@@ -77,7 +96,7 @@ void PaintFocusRing(QPainter& painter, const QRect& around, const QPalette& pale
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(QPen(palette.color(QPalette::Highlight), RingWidth));
     painter.setBrush(Qt::NoBrush);
-    constexpr double Half = RingWidth / 2;
+    constexpr double Half = RingWidth / 2.0;
     painter.drawRoundedRect(QRectF(around).adjusted(Half, Half, -Half, -Half), RingRounding, RingRounding);
     painter.restore();
 }
@@ -96,7 +115,13 @@ void HouseStyle::drawControl(ControlElement element, const QStyleOption* option,
         QProxyStyle::drawControl(element, &fitting, painter, widget);
         return;
     }
+    const bool notes = qobject_cast<const QPlainTextEdit*>(widget) != nullptr;
+    if (element == CE_ShapedFrame && notes) {
+        // Between outline and text, where the ring goes.
+        painter->fillRect(option->rect.adjusted(1, 1, -1, -1), option->palette.base());
+    }
     QProxyStyle::drawControl(element, option, painter, widget);
+    PaintPopup(element, *option, *painter, widget);
     // The menu under the keyboard before it opens, which the base shows by nothing.
     const bool menuAhead = element == CE_MenuBarItem && option->state.testFlag(State_Selected) &&
                            !option->state.testFlag(State_Sunken) && widget != nullptr && widget->hasFocus();
@@ -155,6 +180,17 @@ void HouseStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* opt
                 PaintFocusRing(*painter, option->rect, option->palette);
             }
             break;
+        case PE_FrameMenu:
+            if (IsDark(option->palette)) {
+                PaintOutline(*painter, *option, ButtonOutline);
+            }
+            break;
+        case PE_FrameFocusRect:
+            // Where the keyboard stands in a list that has nothing chosen.
+            if (qobject_cast<const QAbstractItemView*>(widget) != nullptr) {
+                PaintFocusRing(*painter, option->rect, option->palette);
+            }
+            break;
         case PE_PanelButtonCommand:
             // The base outlines them darker than the ground, which nobody sees when that is dark.
             if (IsDark(option->palette) && !IsDefault(*option)) {
@@ -173,6 +209,12 @@ void HouseStyle::polish(QPalette& palette) {
     }
     // A disabled menu lies on the same bar as the others.
     palette.setColor(QPalette::Disabled, QPalette::Window, palette.color(QPalette::Active, QPalette::Window));
+}
+
+int HouseStyle::pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const {
+    // Notes leave their ring as much room as it wants.
+    const bool notes = metric == PM_DefaultFrameWidth && qobject_cast<const QPlainTextEdit*>(widget) != nullptr;
+    return notes ? RingWidth : QProxyStyle::pixelMetric(metric, option, widget);
 }
 
 int HouseStyle::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,

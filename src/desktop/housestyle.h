@@ -21,6 +21,7 @@ public:
     /// Of the whole program, whenever the system's colours change.
     void polish(QPalette& palette) override;
     using QProxyStyle::polish;
+    int pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const override;
     int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
                   QStyleHintReturn* answer) const override;
 };
