@@ -217,7 +217,8 @@ def same(found, wanted):
     assert found == wanted, f"{found!r} is not {wanted!r}"
 
 
-TAB, RETURN, ESCAPE, SPACE, LEFT, RIGHT, F6 = 0xFF09, 0xFF0D, 0xFF1B, 0x20, 0xFF51, 0xFF53, 0xFFC3
+TAB, RETURN, ESCAPE, SPACE, LEFT, RIGHT, DOWN = 0xFF09, 0xFF0D, 0xFF1B, 0x20, 0xFF51, 0xFF53, 0xFF54
+F4, F6 = 0xFFC1, 0xFFC3
 
 
 def menu(reader):
@@ -323,6 +324,26 @@ def tools(reader):
     reader.back(window)
 
 
+def lists(reader):
+    """A list opens where the box stands, a text with blanks less among them; an arrow goes on from there. The lists
+    beneath the boxes of the enter-data mode open from these."""
+    window = reader.opened("Polygons")
+    sides = window.the("text: Sides In Polygon")
+    reader.focused(window, "combo box: Sides In Polygon")
+    same(sides.text(), "6")
+    reader.key(DOWN)
+    until(lambda: sides.text() == " 7", "seven sides")
+    reader.back(window)
+    window = reader.opened("Speeds + Feeds")
+    reader.chosen(window, "ENTER New INCH Data")
+    reader.focused(window, "text: Tool")
+    reader.key(F4)
+    reader.focused(window, "combo box: Tool")
+    reader.key(ESCAPE)
+    reader.chosen(window, "ENTER New INCH Data")
+    reader.back(window)
+
+
 def dialogs(reader):
     window = reader.opened("Bolt Circles")
     window.the("text: Start Angle").write("30")
@@ -387,7 +408,7 @@ def board(reader):
 
 
 CASES = {"menu": menu, "about": about, **{f"{name} opens": opening(name) for name in CALCULATORS},
-         "right triangle by a reader": right_triangle, "options": options, "check boxes": checks, "tools": tools,
+         "right triangle by a reader": right_triangle, "options": options, "check boxes": checks, "tools": tools, "lists": lists,
          "board": board, "dialogs": dialogs, "report": report}
 
 

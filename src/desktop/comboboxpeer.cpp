@@ -45,12 +45,26 @@ void ListBox::showPopup() {
         // As wide as its longest item, which the box may be too narrow for.
         view()->setMinimumWidth(std::min(view()->sizeHintForColumn(0) + ListMargin, WidestList));
         QComboBox::showPopup();
-        // A text that was never chosen from the list is found in it all the same.
-        const int shown = findText(FromText(combo_.Text()));
-        if (currentIndex() < 0 && shown >= 0) {
-            view()->setCurrentIndex(model()->index(shown, modelColumn()));
+        // A text that was never chosen from the list is found in it all the same. Without one the keyboard stands on
+        // the first item, where it can be seen.
+        if (currentIndex() < 0 && count() > 0) {
+            view()->setCurrentIndex(model()->index(std::max(Stand(), 0), modelColumn()));
         }
     }
+}
+
+// Where the box stands in its list: what was chosen, or else what reads like its text, blanks aside.
+int ListBox::Stand() const {
+    if (combo_.ListIndex() >= 0) {
+        return combo_.ListIndex();
+    }
+    const QString text = FromText(combo_.Text()).trimmed();
+    for (int index = 0; index < count(); ++index) {
+        if (itemText(index).trimmed() == text) {
+            return index;
+        }
+    }
+    return -1;
 }
 
 // The arrow keys walk along the list.
@@ -60,7 +74,7 @@ bool ListBox::Walk(const QKeyEvent& event) {
     if (step == std::end(Steps) || combo_.ListCount() == 0) {
         return step != std::end(Steps);
     }
-    const int index = std::clamp(combo_.ListIndex() + step->items, 0, combo_.ListCount() - 1);
+    const int index = std::clamp(Stand() + step->items, 0, combo_.ListCount() - 1);
     if (index != combo_.ListIndex()) {
         window_.ByPerson([&] { combo_.ChooseByPerson(index); });
     }

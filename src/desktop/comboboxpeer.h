@@ -21,6 +21,7 @@ protected:
 
 private:
     [[nodiscard]] bool Walk(const QKeyEvent& event);
+    [[nodiscard]] int Stand() const;
 
     FormWindow& window_;
     ComboBox& combo_;

@@ -6,6 +6,7 @@
 #include "desktop/pixels.h"
 #include "desktop/sideways.h"
 #include "desktop/texts.h"
+#include "desktop/toolwidget.h"
 
 #include <QAccessible>
 #include <QCloseEvent>
@@ -175,7 +176,8 @@ void FormWindow::SyncFocus() {
         if (has != peer->Widget()) {
             peer->Widget()->setFocus(Qt::OtherFocusReason);
         }
-    } else if (has != nullptr && has != this) {
+    } else if (has != nullptr && has != this && dynamic_cast<ToolWidget*>(has) == nullptr) {
+        // A tool keeps the keyboard where its panel gives it to nobody.
         has->clearFocus();
     }
 }

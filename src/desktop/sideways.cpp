@@ -1,6 +1,7 @@
 // Links and tools under the keyboard.
 #include "desktop/sideways.h"
 
+#include "desktop/comboboxpeer.h"
 #include "desktop/formwindow.h"
 #include "desktop/linklabel.h"
 #include "desktop/toolwidget.h"
@@ -56,6 +57,29 @@ bool GoToTools(FormWindow& window) {
     return take(true) || take(false);
 }
 
+bool Covers(const Control& control, double x, double y) {
+    return x > control.Left() && x < control.Left() + control.Width() && y > control.Top() &&
+           y < control.Top() + control.Height();
+}
+
+// A box that takes what no list has may lie on a list, whose arrow alone can be seen then.
+bool OpenListBeneath(const FormWindow& window) {
+    const Control* const box = window.Surface().ActiveControl();
+    if (box == nullptr) {
+        return false;
+    }
+    for (const Control* const beneath : box->Container().Children()) {
+        auto* const list = dynamic_cast<ComboBoxPeer*>(window.PeerOf(*beneath));
+        if (list != nullptr && beneath != box && beneath->IsUsable() &&
+            Covers(*beneath, box->Left() + box->Width() / 2, box->Top() + box->Height() / 2)) {
+            list->Box()->setFocus(Qt::TabFocusReason);
+            list->Box()->showPopup();
+            return true;
+        }
+    }
+    return false;
+}
+
 void ClickForm(Form& form) {
     form.MouseDownByPerson({LeftButton, 0, 0, 0});
     form.MouseUpByPerson({LeftButton, 0, 0, 0});
@@ -92,11 +116,19 @@ bool TabOverLinks(FormWindow& window, bool next) {
 bool TakeSideKey(FormWindow& window, const QKeyEvent& event) {
     const bool onTools = dynamic_cast<ToolWidget*>(window.focusWidget()) != nullptr;
     if (event.key() == Qt::Key_F6 || (onTools && event.key() == Qt::Key_Escape)) {
+        if (onTools && window.Surface().ActiveControl() == nullptr) {
+            window.Surface().TabByPerson(false);
+        }
         if (onTools) {
             window.SyncFocus();
             return true;
         }
         return GoToTools(window);
+    }
+    const bool opens =
+        event.key() == Qt::Key_F4 || (event.key() == Qt::Key_Down && (event.modifiers() & Qt::AltModifier) != 0);
+    if (opens) {
+        return OpenListBeneath(window);
     }
     const bool presses = event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter ||
                          event.key() == Qt::Key_Space || event.key() == Qt::Key_Escape;
