@@ -577,7 +577,9 @@ def lay_out(theme, scale, out):
     """All pictures of a theme and scale on one sheet."""
     pictures = sorted(map(str, (out / f"{theme}-{scale}").glob("*.png")))
     if pictures and shutil.which("montage"):
-        subprocess.run(["montage", "-label", "", *pictures, "-tile", "6x", "-geometry", "640x560>+8+8", "-background",
+        # Made small as they are read, as all of the largest at once want more memory than ImageMagick takes.
+        small = [f"{picture}[640x560>]" for picture in pictures]
+        subprocess.run(["montage", "-label", "", *small, "-tile", "6x", "-geometry", "640x560>+8+8", "-background",
                         "#808080", str(out / f"{theme}-{scale}.png")], check=False)
 
 
