@@ -6,6 +6,7 @@
 #include "geometry/tangentmend.h"
 
 #include <cstddef>
+#include <optional>
 
 namespace brindlex::geometry {
 
@@ -77,9 +78,7 @@ bool LeanAlike(const TangentNumbers& w) {
     const auto isZero = [&](Checked whole, Checked one, Checked other) {
         return ValueOf(Format((Abs(whole / 2.0) - Abs((one + other) / 2.0)).Value(), Mask)) == 0;
     };
-    bool alike = false;
-    Guarded([&] { alike = isZero(w.Q, w.A.Phi, w.B.Phi) && isZero(w.P, w.A.Psi, w.B.Psi); });
-    return alike;
+    return isZero(w.Q, w.A.Phi, w.B.Phi) && isZero(w.P, w.A.Psi, w.B.Psi);
 }
 
 void FindSectors(TangentNumbers& w) {
@@ -209,21 +208,18 @@ enum class Want { Any, Zero, Other };
 struct Correction {
     Case For;
     Want DxA, DyA, DxB, DyB;
-    bool PutsA;
-    Offset OnA;
-    bool PutsB;
-    Offset OnB;
+    std::optional<Offset> OnA, OnB;
 };
 constexpr std::array Corrections{
-    Correction{Case::II, Want::Other, Want::Any, Want::Zero, Want::Any, false, {0, 0}, true, {-1, 0}},
-    Correction{Case::III, Want::Any, Want::Other, Want::Any, Want::Zero, false, {0, 0}, true, {0, 1}},
-    Correction{Case::III, Want::Any, Want::Zero, Want::Any, Want::Other, true, {0, 1}, false, {0, 0}},
-    Correction{Case::IV, Want::Zero, Want::Any, Want::Any, Want::Zero, true, {1, 0}, true, {0, -1}},
-    Correction{Case::IV, Want::Other, Want::Any, Want::Any, Want::Zero, false, {0, 0}, true, {0, -1}},
-    Correction{Case::IV, Want::Any, Want::Other, Want::Zero, Want::Any, false, {0, 0}, true, {1, 0, 1}},
-    Correction{Case::IV, Want::Zero, Want::Any, Want::Any, Want::Other, true, {1, 0}, false, {0, 0}},
-    Correction{Case::IV, Want::Any, Want::Zero, Want::Other, Want::Any, true, {0, -1}, false, {0, 0}},
-    Correction{Case::IV, Want::Any, Want::Zero, Want::Zero, Want::Any, true, {0, -1}, false, {0, 0}},
+    Correction{Case::II, Want::Other, Want::Any, Want::Zero, Want::Any, std::nullopt, Offset{-1, 0}},
+    Correction{Case::III, Want::Any, Want::Other, Want::Any, Want::Zero, std::nullopt, Offset{0, 1}},
+    Correction{Case::III, Want::Any, Want::Zero, Want::Any, Want::Other, Offset{0, 1}, std::nullopt},
+    Correction{Case::IV, Want::Zero, Want::Any, Want::Any, Want::Zero, Offset{1, 0}, Offset{0, -1}},
+    Correction{Case::IV, Want::Other, Want::Any, Want::Any, Want::Zero, std::nullopt, Offset{0, -1}},
+    Correction{Case::IV, Want::Any, Want::Other, Want::Zero, Want::Any, std::nullopt, Offset{1, 0, 1}},
+    Correction{Case::IV, Want::Zero, Want::Any, Want::Any, Want::Other, Offset{1, 0}, std::nullopt},
+    Correction{Case::IV, Want::Any, Want::Zero, Want::Other, Want::Any, Offset{0, -1}, std::nullopt},
+    Correction{Case::IV, Want::Any, Want::Zero, Want::Zero, Want::Any, Offset{0, -1}, std::nullopt},
 };
 
 bool Holds(Want want, Checked difference) {
@@ -264,11 +260,11 @@ void Correct(TangentNumbers& w, Case found) {
         if (found == Case::IV) {
             PutSquare(w, 1);  // each row of this case writes all four afresh, so that the last one decides
         }
-        if (row.PutsA) {
-            PutOffset(w, &Points::OnA, row.OnA);
+        if (row.OnA) {
+            PutOffset(w, &Points::OnA, *row.OnA);
         }
-        if (row.PutsB) {
-            PutOffset(w, &Points::OnB, row.OnB);
+        if (row.OnB) {
+            PutOffset(w, &Points::OnB, *row.OnB);
         }
     }
 }
@@ -311,12 +307,10 @@ LinePair FindLinePair(const std::vector<std::string>& lineRecords, const PairIte
     return pair;
 }
 
-std::array<TangentCircle, 4> FindTangentCircles(const std::vector<std::string>& lineRecords, std::string_view item,
-                                                double radius, Tangents tangents) {
-    const PairItem chosen = ReadPair(item);
-    const LinePair lines = FindLinePair(lineRecords, chosen);
+std::array<TangentCircle, 4> CirclesByTables(const LinePair& lines, Position crossing, double radius,
+                                             Tangents tangents) {
     TangentNumbers w;
-    w.Crossing = {chosen.Crossing.X, chosen.Crossing.Y};
+    w.Crossing = {crossing.X, crossing.Y};
     w.R = radius;
     w.Rad = Atn(1.0) * 4.0 / 180.0;
     const Segment a = Ordered(lines.A);
@@ -335,6 +329,14 @@ std::array<TangentCircle, 4> FindTangentCircles(const std::vector<std::string>& 
     for (std::size_t i = 0; i < circles.size(); ++i) {
         circles[i] = {Plain(w.Centres[i]), Plain(w.Touch[i].OnA), Plain(w.Touch[i].OnB)};
     }
+    return circles;
+}
+
+std::array<TangentCircle, 4> FindTangentCircles(const std::vector<std::string>& lineRecords, std::string_view item,
+                                                double radius, Tangents tangents) {
+    const PairItem chosen = ReadPair(item);
+    const LinePair lines = FindLinePair(lineRecords, chosen);
+    auto circles = CirclesByTables(lines, chosen.Crossing, radius, tangents);
     if (tangents == Tangents::Exact) {
         MendCircles(circles, lines, chosen.Crossing, radius);
     }

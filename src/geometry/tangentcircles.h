@@ -31,8 +31,11 @@ struct LinePair {
 /// Looked up by the first 3 characters of their records; a line that is not there leaves its ends 0.
 [[nodiscard]] LinePair FindLinePair(const std::vector<std::string>& lineRecords, const PairItem& item);
 
-/// The circles in their order of creation. `item` is the chosen pair, `lineRecords` the store's line records. A line
-/// that is not among them leaves its ends 0.
+/// The circles in their order of creation, by angles and sign tables alone: not each is a true tangent.
+[[nodiscard]] std::array<TangentCircle, 4> CirclesByTables(const LinePair& lines, Position crossing, double radius,
+                                                           Tangents tangents);
+
+/// The same for the chosen pair `item` of the store's line records, mended where tangents are exact.
 [[nodiscard]] std::array<TangentCircle, 4> FindTangentCircles(const std::vector<std::string>& lineRecords,
                                                               std::string_view item, double radius, Tangents tangents);
 

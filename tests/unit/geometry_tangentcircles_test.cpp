@@ -173,15 +173,20 @@ struct Angles {
     double phi = 0;
     double dx = 0;
     double dy = 0;
-    void Take(double x, double y) {
+    void Take(double x, double y, Tangents tangents) {
         dx = x;
         dy = y;
-        if (dy != 0) {
-            psi = std::atan(dx / dy) * Factor;
+        Set(psi, Between(dx, dy, tangents));
+        Set(phi, Between(dy, dx, tangents));
+    }
+
+private:
+    static double Between(double over, double under, Tangents tangents) {
+        if (under != 0) {
+            return std::atan(over / under) * Factor;
         }
-        if (dx != 0) {
-            phi = std::atan(dy / dx) * Factor;
-        }
+        const bool skipped = over == 0 || tangents == Tangents::AsRuled;
+        return skipped ? std::numeric_limits<double>::quiet_NaN() : std::copysign(90, over);
     }
 };
 
@@ -192,13 +197,14 @@ Segment LargerFirst(Segment line) {
     return line;
 }
 
-Circles PlainRules(const Segment& lineA, const Segment& lineB, Position p, double R) {
+Circles PlainRules(const Segment& lineA, const Segment& lineB, Position p, double R,
+                   Tangents tangents = Tangents::AsRuled) {
     Angles A;
     Angles B;
     const Segment oa = LargerFirst(lineA);
     const Segment ob = LargerFirst(lineB);
-    A.Take(oa.Start.X - oa.End.X, oa.Start.Y - oa.End.Y);
-    B.Take(ob.Start.X - ob.End.X, ob.Start.Y - ob.End.Y);
+    A.Take(oa.Start.X - oa.End.X, oa.Start.Y - oa.End.Y, tangents);
+    B.Take(ob.Start.X - ob.End.X, ob.Start.Y - ob.End.Y, tangents);
     double P = std::fabs(A.psi) + std::fabs(B.psi);
     double Q = std::fabs(A.phi) + std::fabs(B.phi);
     const bool flag = std::fabs(std::fabs(Q / 2) - std::fabs((A.phi + B.phi) / 2)) < 5e-11 &&
@@ -238,8 +244,8 @@ Circles PlainRules(const Segment& lineA, const Segment& lineB, Position p, doubl
             c[3].Centre = {p.X + a1, p.Y - a2};
         }
     }
-    A.Take(lineA.Start.X - lineA.End.X, lineA.Start.Y - lineA.End.Y);
-    B.Take(lineB.Start.X - lineB.End.X, lineB.Start.Y - lineB.End.Y);
+    A.Take(lineA.Start.X - lineA.End.X, lineA.Start.Y - lineA.End.Y, tangents);
+    B.Take(lineB.Start.X - lineB.End.X, lineB.Start.Y - lineB.End.Y, tangents);
     const double u1 = Tk * std::sin(A.psi * Rad);
     const double v1 = Tk * std::cos(A.psi * Rad);
     const double u2 = Tk * std::sin(B.psi * Rad);
@@ -418,6 +424,60 @@ TEST(GeometryTangentCircles, FollowTheRulesInEveryPosition) {
     EXPECT_EQ(checked, 160000);
 }
 
+/// Directions on the axes, beside them and between them, and none: a line that is gone. The hairs are within the
+/// twelve decimals of a right angle, within the ten of an angle's equality, and outside both.
+std::vector<Position> Directions() {
+    std::vector<Position> found{{0, 0}, {1, 1}, {1, -1}, {3, 4}, {4, -3}, {-5, 2}, {2, 5}};
+    for (const double hair : {0.0, 8e-15, 2e-13, 1e-11}) {
+        for (const double sign : {1.0, -1.0}) {
+            found.push_back({5, 5 * hair * sign});
+            found.push_back({5 * hair * sign, 5});
+        }
+    }
+    return found;
+}
+
+/// The same line from either end.
+std::array<Segment, 2> BothWays(Position direction) {
+    const Position back{-direction.X, -direction.Y};
+    return {Segment{back, direction}, Segment{direction, back}};
+}
+
+TEST(GeometryTangentCircles, TablesAreFollowedOnAndBesideTheAxes) {
+    // Only the directions of the lines count. Far out a radius is lost beside the crossing, in one coordinate or both.
+    const auto expectNear = [](Position found, Position expected) {
+        ASSERT_NEAR(found.X, expected.X, 1e-15 + 1e-13 * std::fabs(expected.X));
+        ASSERT_NEAR(found.Y, expected.Y, 1e-15 + 1e-13 * std::fabs(expected.Y));
+    };
+    const auto expectRules = [&](const LinePair& lines, Position crossing, Tangents tangents) {
+        constexpr double Radius = .75;
+        const Circles found = CirclesByTables(lines, crossing, Radius, tangents);
+        const Circles plain = PlainRules(lines.A, lines.B, crossing, Radius, tangents);
+        for (std::size_t i = 0; i < 4; ++i) {
+            SCOPED_TRACE(i + 1);
+            ASSERT_NO_FATAL_FAILURE(expectNear(found[i].Centre, plain[i].Centre));
+            ASSERT_NO_FATAL_FAILURE(expectNear(found[i].OnA, plain[i].OnA));
+            ASSERT_NO_FATAL_FAILURE(expectNear(found[i].OnB, plain[i].OnB));
+        }
+    };
+    const std::vector<Position> directions = Directions();
+    for (const Position a : directions) {
+        for (const Position b : directions) {
+            for (std::size_t ends = 0; ends < 4; ++ends) {
+                const LinePair lines{BothWays(a)[ends / 2], BothWays(b)[ends % 2]};
+                for (const Position crossing : {Position{0, 0}, {3, 1}, {-2, -7}, {0, 1e17}, {1e17, 0}, {1e17, 1e17}}) {
+                    for (const Tangents tangents : {Tangents::AsRuled, Tangents::Exact}) {
+                        ASSERT_NO_FATAL_FAILURE(expectRules(lines, crossing, tangents))
+                            << a.X << ',' << a.Y << " and " << b.X << ',' << b.Y << ", ends " << ends << ", crossing "
+                            << crossing.X << ',' << crossing.Y
+                            << (tangents == Tangents::Exact ? " exact" : " as ruled");
+                    }
+                }
+            }
+        }
+    }
+}
+
 // Truth by a second method.
 
 double DistanceTo(Position place, const Segment& line) {
@@ -449,6 +509,47 @@ bool ParallelToAnAxis(const Segment& line) {
 
 double Steepness(const Segment& line) {
     return std::fabs((line.End.Y - line.Start.Y) / (line.End.X - line.Start.X));
+}
+
+/// The quadrants of the centres around the crossing, and each point straight above, below or beside its centre.
+void ExpectOneInEachQuadrant(const Circles& found, Position crossing, double radius, bool levelIsA) {
+    std::array<int, 4> inQuadrant{};
+    for (const TangentCircle& circle : found) {
+        const double x = circle.Centre.X < crossing.X ? -radius : radius;
+        const double y = circle.Centre.Y < crossing.Y ? -radius : radius;
+        ++inQuadrant[(x < 0 ? 1U : 0U) + (y < 0 ? 2U : 0U)];
+        ExpectPlace(circle.Centre, {crossing.X + x, crossing.Y + y}, "centre");
+        ExpectPlace(levelIsA ? circle.OnA : circle.OnB, {crossing.X + x, crossing.Y}, "on the level line");
+        ExpectPlace(levelIsA ? circle.OnB : circle.OnA, {crossing.X, crossing.Y + y}, "on the upright line");
+    }
+    EXPECT_EQ(inQuadrant, (std::array{1, 1, 1, 1}));
+}
+
+TEST(GeometryTangentCircles, TablesAreTrueForLevelAndUprightOnceRatiosMayBeInfinite) {
+    for (std::size_t ends = 0; ends < 4; ++ends) {
+        const Segment level = BothWays({5, 0})[ends / 2];
+        const Segment upright = BothWays({0, 5})[ends % 2];
+        for (const Position crossing : {Position{0, 0}, {2, 1}, {-2, 1}, {-2, -1}, {2, -1}}) {
+            SCOPED_TRACE(ends);
+            ExpectOneInEachQuadrant(CirclesByTables({level, upright}, crossing, .5, Tangents::Exact), crossing, .5,
+                                    true);
+            ExpectOneInEachQuadrant(CirclesByTables({upright, level}, crossing, .5, Tangents::Exact), crossing, .5,
+                                    false);
+        }
+    }
+}
+
+TEST(GeometryTangentCircles, AHairOffTheAxesTheFirstTwoCirclesStayTrue) {
+    // Level falls to the right and upright leans to the right, by less than the angles' decimals: they count as leaning
+    // alike, and the first centre is to the lower left, where a point's own angle has the wrong sign.
+    const Segment level{{-5, 4e-14}, {5, -4e-14}};
+    const Segment upright{{-4e-14, -5}, {4e-14, 5}};
+    const Circles levelFirst = CirclesByTables({level, upright}, {2, 1}, .5, Tangents::AsRuled);
+    ExpectCircle(levelFirst[0], {{1.5, .5}, {1.5, 1}, {2, .5}}, "1");
+    ExpectCircle(levelFirst[1], {{2.5, 1.5}, {2.5, 1}, {2, 1.5}}, "2");
+    const Circles uprightFirst = CirclesByTables({upright, level}, {2, 1}, .5, Tangents::AsRuled);
+    ExpectCircle(uprightFirst[0], {{1.5, .5}, {2, .5}, {1.5, 1}}, "1");
+    ExpectCircle(uprightFirst[1], {{2.5, 1.5}, {2, 1.5}, {2.5, 1}}, "2");
 }
 
 TEST(GeometryTangentCircles, OrdinaryPositionsAreTrue) {
