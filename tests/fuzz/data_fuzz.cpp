@@ -46,18 +46,28 @@ Lines Distinct(const Lines& lines) {
     return distinct;
 }
 
+/// Whether a word is given as an option, and not as the text behind one.
+bool IsGiven(std::string_view option, const std::vector<std::string>& words) {
+    bool isText = false;
+    for (const std::string& word : words) {
+        if (!isText && word == option) {
+            return true;
+        }
+        isText = !isText && std::any_of(std::begin(DataOptions), std::end(DataOptions),
+                                        [&](const OptionRow& row) { return row.Name == word && !row.Meta.empty(); });
+    }
+    return false;
+}
+
 void List(const std::string& file, const std::vector<std::string>& options) {
     std::vector<std::string> words{"data", file};
     words.insert(words.end(), options.begin(), options.end());
     const Outcome outcome = Run(Table, words, "");
-    const auto has = [&](const char* option) {
-        return std::find(options.begin(), options.end(), option) != options.end();
-    };
     const bool helps = outcome.Out.starts_with("brindlex-cli ");
     if (outcome.Code != 0 || helps) {
         return;
     }
-    if (has("--json")) {
+    if (IsGiven("--json", options)) {
         const auto value = nlohmann::json::parse(outcome.Out, nullptr, false);
         Require(value.is_object() &&
                     value.value("lines_listed", std::size_t(0)) == value.value("lines", nlohmann::json::array()).size(),
