@@ -1,7 +1,8 @@
 #!/usr/bin/env python3
 """Runs sessions on the real windows under valgrind's memcheck, in a fresh empty working directory each.
 
-    run_valgrind.py --drive build/release/bin/brindlex-drive-desktop [--each 20 | --most N] [SCRIPT or FOLDER...]
+    run_valgrind.py --drive build/release/bin/brindlex-drive-desktop [--each 20 | --most N] [--jobs N]
+                    [SCRIPT or FOLDER...]
 
 Without a name it takes so many sessions of every folder of tests/scripts, evenly spread, the first of every folder
 first; 0 takes them all. With --most it takes N sessions that between them come to every form and do as many different
@@ -104,13 +105,14 @@ def main():
     options.add_argument("--drive", required=True, type=os.path.abspath)
     options.add_argument("--each", type=int, default=20)
     options.add_argument("--most", type=int, default=0)
+    options.add_argument("--jobs", type=int, help="so many at a time, not one for each processor")
     options.add_argument("scripts", nargs="*")
     options = options.parse_args()
     if options.scripts:
         scripts = run_scripts.scripts_of(options.scripts)
     else:
         scripts = most_different(options.most) if options.most else choice(options.each)
-    results = [is_clean(options.drive, script) for script in scripts]
+    results = harness.in_parallel(lambda script: is_clean(options.drive, script), scripts, options.jobs)
     harness.finish("valgrind", results.count(True), results.count(False), results.count(None))
 
 
