@@ -115,9 +115,13 @@ class Installation:
             assert "EXIT_STATUS" in run("mandoc", "-T", "html", page)
 
     def guide(self):
-        """The guide is there with its pictures."""
+        """The guide is there with its pictures, and with every page that it leads to."""
         guide = self.share / "doc/brindlex/guide"
         assert (guide / "README.md").is_file() and (guide / "menu.png").is_file()
+        missing = [f"{page.name}: {link}" for page in guide.parent.rglob("*.md")
+                   for link in re.findall(r"\]\(([^)#:]+)", page.read_text(encoding="utf-8"))
+                   if not (page.parent / link).is_file()]
+        assert not missing, missing
 
     def arguments(self):
         """Arguments are refused with one line, before anything is made."""
