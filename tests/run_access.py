@@ -188,6 +188,12 @@ class Reader:
     def key(self, code):
         self.atspi.generate_keyboard_event(code, None, self.atspi.KeySynthType.SYM)
 
+    def key_with_shift(self, code):
+        kinds, shift = self.atspi.KeySynthType, 1 << int(self.atspi.ModifierType.SHIFT)
+        self.atspi.generate_keyboard_event(shift, None, kinds.LOCKMODIFIERS)
+        self.key(code)
+        self.atspi.generate_keyboard_event(shift, None, kinds.UNLOCKMODIFIERS)
+
     def focused(self, window, called):
         until(lambda: any(node.has("FOCUSED") and node.called() == called for node in window.all()),
               f"focus on {called}, not {[node.called() for node in window.all() if node.has('FOCUSED')]}")
@@ -218,7 +224,8 @@ def same(found, wanted):
 
 
 TAB, RETURN, ESCAPE, SPACE, LEFT, RIGHT, DOWN = 0xFF09, 0xFF0D, 0xFF1B, 0x20, 0xFF51, 0xFF53, 0xFF54
-F4, F6 = 0xFFC1, 0xFFC3
+FIVE, LETTER_A = 0x35, 0x61
+F4, F6, F10 = 0xFFC1, 0xFFC3, 0xFFC7
 
 
 def menu(reader):
@@ -264,6 +271,7 @@ def right_triangle(reader):
     window.the("push button: Calculate!").do("Press")
     box = reader.window("Brindlex")
     same(box.the("label: What is Length of side a").has("SHOWING"), True)
+    box.the("image: Question")
     box.the("push button: OK").do("Press")
     reader.gone("Brindlex")
     window.the("text: Length of side a").write("5")
@@ -324,6 +332,22 @@ def tools(reader):
     reader.back(window)
 
 
+def entry_menu(reader):
+    """All of an entry is selected from its own menu, which Ctrl+A does not do there, and the next figure takes its
+    place."""
+    window = reader.opened("Bolt Circles")
+    entry = window.the("text: Bolt Circle X Center")
+    until(lambda: entry.has("FOCUSED"), "the first entry")
+    for code in (FIVE, FIVE):
+        reader.key(code)
+    until(lambda: entry.text() == "55", "two figures")
+    reader.key_with_shift(F10)
+    for code in (LETTER_A, FIVE):
+        reader.key(code)
+    until(lambda: entry.text() == "5", f"one figure, not {entry.text()}")
+    reader.back(window)
+
+
 def lists(reader):
     """A list opens where the box stands, a text with blanks less among them; an arrow goes on from there. The lists
     beneath the boxes of the enter-data mode open from these."""
@@ -337,9 +361,24 @@ def lists(reader):
     window = reader.opened("Speeds + Feeds")
     reader.chosen(window, "ENTER New INCH Data")
     reader.focused(window, "text: Tool")
+    # An empty list does not take the keyboard.
+    tool = window.the("text: Tool", 1)
     reader.key(F4)
-    reader.focused(window, "combo box: Tool")
-    reader.key(ESCAPE)
+    reader.key(FIVE)
+    until(lambda: tool.text() == "5", "a five in the box")
+    for name, value, number in (("Tool", "Drill", 1), ("Tool Material", "Carbide", 1), ("Material Being Cut", "Brass", 1),
+                                ("Range: SFM", "80-120", 0), ("Range: FPT", ".001-.004", 0)):
+        window.the(f"text: {name}", number).write(value)
+    window.the("push button: Enter Data").do("Press")
+    until(lambda: tool.text() == "", "the record saved")
+    # From the box to its list and back, with the choice and without one.
+    for end, choice in ((ESCAPE, ""), (RETURN, "Drill")):
+        until(lambda: tool.has("FOCUSED"), "the box")
+        reader.key(F4)
+        until(lambda: not tool.has("FOCUSED"), "the list")
+        reader.key(end)
+        until(lambda: tool.has("FOCUSED"), "the box again")
+        same(tool.text(), choice)
     reader.chosen(window, "ENTER New INCH Data")
     reader.back(window)
 
@@ -408,8 +447,8 @@ def board(reader):
 
 
 CASES = {"menu": menu, "about": about, **{f"{name} opens": opening(name) for name in CALCULATORS},
-         "right triangle by a reader": right_triangle, "options": options, "check boxes": checks, "tools": tools, "lists": lists,
-         "board": board, "dialogs": dialogs, "report": report}
+         "right triangle by a reader": right_triangle, "options": options, "check boxes": checks, "tools": tools,
+         "an entry's menu": entry_menu, "lists": lists, "board": board, "dialogs": dialogs, "report": report}
 
 
 def inside(program):
@@ -421,7 +460,7 @@ def inside(program):
                        if not name.startswith(("XDG_", "QT_", "WAYLAND_"))}
         environment.update(HOME=home, XDG_RUNTIME_DIR=home, XDG_DATA_HOME=str(pathlib.Path(home, "data")),
                            LC_ALL="C.UTF-8", QT_QPA_PLATFORM="xcb", QT_LINUX_ACCESSIBILITY_ALWAYS_ON="1")
-        with subprocess.Popen([program], env=environment) as run:
+        with subprocess.Popen([program], env=environment, cwd=home) as run:
             reader = Reader(atspi, run)
             passed = failed = 0
             for name, case in CASES.items():

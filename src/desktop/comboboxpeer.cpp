@@ -8,8 +8,10 @@
 #include <QAbstractItemView>
 #include <QAccessible>
 #include <QKeyEvent>
+#include <QTimer>
 
 #include <algorithm>
+#include <utility>
 
 namespace brindlex {
 
@@ -50,6 +52,26 @@ void ListBox::showPopup() {
         if (currentIndex() < 0 && count() > 0) {
             view()->setCurrentIndex(model()->index(std::max(Stand(), 0), modelColumn()));
         }
+    }
+}
+
+void ListBox::hidePopup() {
+    QComboBox::hidePopup();
+    if (InputControl* const box = std::exchange(over_, nullptr)) {
+        // The choice comes after the list is gone, and may send the focus elsewhere.
+        QTimer::singleShot(0, this, [this, box] {
+            if (window_.Surface().ActiveControl() == &combo_) {
+                window_.ByPerson([&] { window_.Surface().FocusByPerson(*box); });
+            }
+        });
+    }
+}
+
+void ListBox::OpenFor(InputControl& box) {
+    if (count() > 0 && !combo_.Locked() && !window_.Deaf()) {
+        setFocus(Qt::TabFocusReason);
+        over_ = &box;
+        showPopup();
     }
 }
 

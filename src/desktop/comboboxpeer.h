@@ -14,6 +14,9 @@ class ListBox : public QComboBox {
 public:
     ListBox(QWidget* parent, FormWindow& window, ComboBox& combo);
     void showPopup() override;
+    void hidePopup() override;
+    /// Opens the list, unless it is empty, for a box that lies on it and gets the focus back when the list is gone.
+    void OpenFor(InputControl& box);
 
 protected:
     void keyPressEvent(QKeyEvent* event) override;
@@ -25,13 +28,14 @@ private:
 
     FormWindow& window_;
     ComboBox& combo_;
+    InputControl* over_ = nullptr;
 };
 
 class ComboBoxPeer : public Peer {
 public:
     ComboBoxPeer(FormWindow& window, ComboBox& combo);
     [[nodiscard]] std::optional<PropertyValue> Seen(std::string_view property) const override;
-    [[nodiscard]] QComboBox* Box() const { return list_; }
+    [[nodiscard]] ListBox* Box() const { return list_; }
     /// Null where nothing can be typed.
     [[nodiscard]] LineBox* Line() const { return line_; }
 

@@ -6,6 +6,8 @@
 #include "desktop/linklabel.h"
 #include "desktop/toolwidget.h"
 
+#include <QContextMenuEvent>
+#include <QCoreApplication>
 #include <QKeyEvent>
 
 #include <algorithm>
@@ -64,7 +66,7 @@ bool Covers(const Control& control, double x, double y) {
 
 // A box that takes what no list has may lie on a list, whose arrow alone can be seen then.
 bool OpenListBeneath(const FormWindow& window) {
-    const Control* const box = window.Surface().ActiveControl();
+    InputControl* const box = window.Surface().ActiveControl();
     if (box == nullptr) {
         return false;
     }
@@ -72,12 +74,22 @@ bool OpenListBeneath(const FormWindow& window) {
         auto* const list = dynamic_cast<ComboBoxPeer*>(window.PeerOf(*beneath));
         if (list != nullptr && beneath != box && beneath->IsUsable() &&
             Covers(*beneath, box->Left() + box->Width() / 2, box->Top() + box->Height() / 2)) {
-            list->Box()->setFocus(Qt::TabFocusReason);
-            list->Box()->showPopup();
+            list->Box()->OpenFor(*box);
             return true;
         }
     }
     return false;
+}
+
+// What the menu key does, which many keyboards lack.
+bool OpenEntryMenu(const FormWindow& window) {
+    QWidget* const entry = window.focusWidget();
+    if (entry == nullptr) {
+        return false;
+    }
+    const QPoint middle = entry->rect().center();
+    QContextMenuEvent asked(QContextMenuEvent::Keyboard, middle, entry->mapToGlobal(middle));
+    return QCoreApplication::sendEvent(entry, &asked) && asked.isAccepted();
 }
 
 void ClickForm(Form& form) {
@@ -129,6 +141,9 @@ bool TakeSideKey(FormWindow& window, const QKeyEvent& event) {
         event.key() == Qt::Key_F4 || (event.key() == Qt::Key_Down && (event.modifiers() & Qt::AltModifier) != 0);
     if (opens) {
         return OpenListBeneath(window);
+    }
+    if (event.key() == Qt::Key_F10 && event.modifiers() == Qt::ShiftModifier) {
+        return OpenEntryMenu(window);
     }
     const bool presses = event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter ||
                          event.key() == Qt::Key_Space || event.key() == Qt::Key_Escape;
