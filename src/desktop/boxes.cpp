@@ -6,7 +6,6 @@
 
 #include <QCoreApplication>
 #include <QInputDialog>
-#include <QLabel>
 #include <QMessageBox>
 #include <QPushButton>
 
@@ -22,13 +21,12 @@ constexpr int ButtonBits = 7;
 struct IconOf {
     int style;
     QMessageBox::Icon icon;
-    const char* name;  ///< for readers
 };
-constexpr IconOf Icons[] = {{style::Plain, QMessageBox::NoIcon, ""},
-                            {style::Stop, QMessageBox::Critical, "Error"},
-                            {style::Question, QMessageBox::Question, "Question"},
-                            {style::Exclamation, QMessageBox::Warning, "Warning"},
-                            {style::Information, QMessageBox::Information, "Information"}};
+constexpr IconOf Icons[] = {{style::Plain, QMessageBox::NoIcon},
+                            {style::Stop, QMessageBox::Critical},
+                            {style::Question, QMessageBox::Question},
+                            {style::Exclamation, QMessageBox::Warning},
+                            {style::Information, QMessageBox::Information}};
 
 struct StyleButtons {
     int style;
@@ -60,9 +58,6 @@ void Furnish(QMessageBox& shown, const MessageBox& box) {
     for (const IconOf& row : Icons) {
         if (row.style == (box.Style & IconBits)) {
             shown.setIcon(row.icon);
-            if (auto* const picture = shown.findChild<QLabel*>(QStringLiteral("qt_msgboxex_icon_label"))) {
-                picture->setAccessibleName(QString::fromLatin1(row.name));
-            }
         }
     }
     for (const StyleButtons& row : Buttons) {

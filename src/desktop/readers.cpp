@@ -11,6 +11,8 @@
 
 #include <QAccessibleWidget>
 #include <QCheckBox>
+#include <QLabel>
+#include <QMessageBox>
 #include <QRadioButton>
 #include <QTimer>
 
@@ -79,6 +81,35 @@ private:
     ListBox* list_;
 };
 
+// The sign in front of a message.
+class SignReading : public QAccessibleWidget {
+public:
+    SignReading(QLabel* sign, QMessageBox* box) : QAccessibleWidget(sign, QAccessible::Graphic), box_(box) {}
+
+    [[nodiscard]] QString text(QAccessible::Text kind) const override {
+        return kind == QAccessible::Name ? QString::fromLatin1(NameOf(box_->icon())) : QAccessibleWidget::text(kind);
+    }
+
+private:
+    static const char* NameOf(QMessageBox::Icon icon) {
+        switch (icon) {
+            case QMessageBox::Critical:
+                return "Error";
+            case QMessageBox::Question:
+                return "Question";
+            case QMessageBox::Warning:
+                return "Warning";
+            case QMessageBox::Information:
+                return "Information";
+            case QMessageBox::NoIcon:
+                break;
+        }
+        return "";
+    }
+
+    QMessageBox* box_;
+};
+
 // What can be pressed, and knows no such interface of the toolkit or has the wrong role in it.
 class PressReading : public QAccessibleWidget {
 public:
@@ -136,6 +167,10 @@ QAccessibleInterface* ReadingOf(const QString& /*className*/, QObject* object) {
     }
     if (auto* const list = dynamic_cast<ListBox*>(object)) {
         return new ListReading(list);
+    }
+    if (auto* const box = qobject_cast<QMessageBox*>(object->parent());
+        box != nullptr && object->objectName() == QStringLiteral("qt_msgboxex_icon_label")) {
+        return new SignReading(qobject_cast<QLabel*>(object), box);
     }
     if (auto* const box = dynamic_cast<PressWidget<QCheckBox>*>(object)) {
         return new PressReading(box, QAccessible::CheckBox, [box] { box->click(); });
