@@ -42,6 +42,10 @@ std::string_view CaptionRow::For(Unit unit, Machine machine) const {
     return unit == Unit::Inch ? InchLathe : MetricLathe;
 }
 
+bool CaptionRow::OfUnitAlone() const {
+    return InchMill == InchLathe && MetricMill == MetricLathe;
+}
+
 std::span<const CaptionRow> CaptionRows() {
     return Rows;
 }

@@ -18,6 +18,8 @@ struct CaptionRow {
     std::string_view MetricLathe;
 
     [[nodiscard]] std::string_view For(Unit unit, Machine machine) const;
+    /// Whether the captions are the same on either machine.
+    [[nodiscard]] bool OfUnitAlone() const;
 };
 
 [[nodiscard]] std::span<const CaptionRow> CaptionRows();

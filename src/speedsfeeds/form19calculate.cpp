@@ -151,7 +151,12 @@ void Form19::ConvDat_Click() {
     ConvDat.Checked(true);
     ConvertData();
     FlipUnits();
-    ChkMach();
+    // What goes by the machine stays as the machine's choice left it: intended.
+    for (const CaptionRow& row : CaptionRows()) {
+        if (row.OfUnitAlone()) {
+            ShowCaption(*this, row.Name, row.For(UnitInForce(), MachineInForce()));
+        }
+    }
     Label17.Caption(std::string(ConvertedFeedRateCaption(UnitInForce())));
     // Ranges that could not be converted leave the converted values to fail their check: intended.
     if (ConvTxt()) {

@@ -396,6 +396,9 @@ TEST(Captions, EachRowByUnitAndMachine) {
     EXPECT_EQ(row.For(Unit::Metric, Machine::Mill), "MPM");
     EXPECT_EQ(row.For(Unit::Inch, Machine::Lathe), "FPM");
     EXPECT_EQ(row.For(Unit::Metric, Machine::Lathe), "mpm");
+    EXPECT_TRUE((CaptionRow{"Label7", "SFM", "SMM", "SFM", "SMM"}.OfUnitAlone()));
+    EXPECT_FALSE((CaptionRow{"Label17", "IPM", "MPM", "FPM", "MPM"}.OfUnitAlone()));
+    EXPECT_FALSE((CaptionRow{"Label17", "IPM", "MPM", "IPM", "mpm"}.OfUnitAlone()));
     EXPECT_EQ(ConvertedFeedRateCaption(Unit::Metric), "MMPM");
     EXPECT_EQ(ConvertedFeedRateCaption(Unit::Inch), "IPM");
     for (const CaptionRow& each : CaptionRows()) {
