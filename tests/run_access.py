@@ -309,6 +309,22 @@ def checks(reader):
     reader.back(window)
 
 
+def purposes(reader):
+    """Boxes of one caption tell for which angle they are."""
+    for calculator, caption, angles in (("Oblique Triangles", "Add Minutes And Seconds", ["Angle A", "Angle B"]),
+                                        ("Sine Plates", "Add D/M/S", ["Bottom Angle:", "Top Angle:"])):
+        window = reader.opened(calculator)
+        if calculator == "Sine Plates":
+            window.the("radio button: Compound").do("Press")
+            until(lambda: "text: Top Angle:" in window.focusable(), "the top angle")
+        told = [window.the(f"check box: {caption}", number) for number in range(2)]
+        until(lambda: [box.words() for box in told] == angles, f"{angles}, not {[box.words() for box in told]}")
+        reader.back(window)
+    window = reader.opened("Bolt Circles")
+    same(window.the("check box: Add D/M/S").words(), "")
+    reader.back(window)
+
+
 def tools(reader):
     window = reader.opened("Geometry")
     same(window.the("tool bar: Tools").has("SHOWING"), True)
@@ -447,8 +463,8 @@ def board(reader):
 
 
 CASES = {"menu": menu, "about": about, **{f"{name} opens": opening(name) for name in CALCULATORS},
-         "right triangle by a reader": right_triangle, "options": options, "check boxes": checks, "tools": tools,
-         "an entry's menu": entry_menu, "lists": lists, "board": board, "dialogs": dialogs, "report": report}
+         "right triangle by a reader": right_triangle, "options": options, "check boxes": checks, "purposes": purposes,
+         "tools": tools, "an entry's menu": entry_menu, "lists": lists, "board": board, "dialogs": dialogs, "report": report}
 
 
 def inside(program):

@@ -206,6 +206,14 @@ bool NeedsName(const Control& control) {
     return dynamic_cast<const Button*>(&control) == nullptr && dynamic_cast<const Label*>(&control) == nullptr;
 }
 
+// What a box is for that another one has the caption of; nothing where the caption tells.
+QString PurposeOf(const CheckBox& box) {
+    const auto* const other = Nearest<CheckBox>(box, [&](const CheckBox& candidate) {
+        return Spoken(candidate.Caption()) == Spoken(box.Caption()) ? 0 : NoLabel;
+    });
+    return other == nullptr ? QString() : FromLabel(box);
+}
+
 void SetName(QWidget* widget, const QString& name) {
     if (widget != nullptr && widget->accessibleName() != name) {
         widget->setAccessibleName(name);
@@ -217,7 +225,16 @@ void SetName(QWidget* widget, const QString& name) {
 void NameForReaders(FormWindow& window) {
     for (const Control* const control : window.Surface().Controls()) {
         const Peer* const peer = window.PeerOf(*control);
-        if (peer == nullptr || peer->Widget() == nullptr || !NeedsName(*control)) {
+        if (peer == nullptr || peer->Widget() == nullptr) {
+            continue;
+        }
+        if (const auto* const box = dynamic_cast<const CheckBox*>(control)) {
+            const QString purpose = PurposeOf(*box);
+            if (peer->Widget()->accessibleDescription() != purpose) {
+                peer->Widget()->setAccessibleDescription(purpose);
+            }
+        }
+        if (!NeedsName(*control)) {
             continue;
         }
         const QString name = NameFor(*control);
