@@ -51,6 +51,10 @@ bool LiesWithin(const QRect& rect, const QRect& ellipse) {
            });
 }
 
+bool IsCovered(const QWidget* widget) {
+    return widget != nullptr && widget->isVisible() && widget->visibleRegion().isEmpty();
+}
+
 }  // namespace
 
 FormWindow::FormWindow(Form& form, Mirror& mirror, Hands hands)
@@ -255,14 +259,18 @@ void FormWindow::keyPressEvent(QKeyEvent* event) {
     }
 }
 
+// Tab passes over what lies beneath something else, such as the enlarged picture, where nobody could see the focus.
 bool FormWindow::focusNextPrevChild(bool next) {
     if (Deaf()) {
         // A widget that was disabled or hidden hands its focus on to nobody.
         return false;
     }
     if (!TabOverLinks(*this, next)) {
-        form_.TabByPerson(!next);
-        SyncFocus();
+        std::size_t tries = form_.TabOrder().size();
+        do {
+            form_.TabByPerson(!next);
+            SyncFocus();
+        } while (--tries > 0 && IsCovered(focusWidget()));
     }
     return true;
 }
