@@ -70,7 +70,9 @@ void Strike(Stage& stage, const Form& form, int keyAscii) {
 }
 
 void TypeAct(Stage& stage, ScriptLine& line) {
-    InputControl& control = TypableControl(stage, line.Word());
+    const std::string name = line.Word();
+    InputControl& control = FocusableControl(stage, name);
+    IsNotLocked(control, name);
     const std::string text = line.Text();
     line.End();
     if (text.find('\0') != std::string::npos) {
@@ -84,11 +86,17 @@ void TypeAct(Stage& stage, ScriptLine& line) {
 
 void KeyAct(Stage& stage, ScriptLine& line) {
     constexpr int lastCode = 255;
-    InputControl& control = TypableControl(stage, line.Word());
+    constexpr int enter = 13;
+    const std::string name = line.Word();
+    InputControl& control = FocusableControl(stage, name);
     const int code = line.Whole();
     line.End();
     if (code < 1 || code > lastCode) {
         throw ScriptError("a code from 1 to 255 is wanted");
+    }
+    // Enter types nothing where it presses the default button, so a locked box passes it on.
+    if (code != enter || control.Parent().DefaultButton() == nullptr) {
+        IsNotLocked(control, name);
     }
     FocusUnlessThere(stage, control);
     Strike(stage, control.Parent(), code);

@@ -79,13 +79,11 @@ InputControl& FocusableControl(Stage& stage, const std::string& name) {
     return *input;
 }
 
-InputControl& TypableControl(Stage& stage, const std::string& name) {
-    InputControl& control = FocusableControl(stage, name);
-    const auto* const box = dynamic_cast<EditControl*>(&control);
+void IsNotLocked(const InputControl& control, const std::string& name) {
+    const auto* const box = dynamic_cast<const EditControl*>(&control);
     if (box != nullptr && box->Locked()) {
         throw ScriptError(name + " is locked");
     }
-    return control;
 }
 
 MenuItem& ReachableItem(Stage& stage, const std::string& name) {

@@ -20,8 +20,8 @@ void NoteForms(Stage& stage);
 [[nodiscard]] Control& UsableControl(Stage& stage, const std::string& name);
 /// One that can have the focus.
 [[nodiscard]] InputControl& FocusableControl(Stage& stage, const std::string& name);
-/// One that takes keys, and is not locked.
-[[nodiscard]] InputControl& TypableControl(Stage& stage, const std::string& name);
+/// Refuses a box whose text a person can't change.
+void IsNotLocked(const InputControl& control, const std::string& name);
 /// A menu item of such a form. Whether it is enabled shows when its menu has opened.
 [[nodiscard]] MenuItem& ReachableItem(Stage& stage, const std::string& name);
 

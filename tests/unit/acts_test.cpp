@@ -199,6 +199,17 @@ TEST(ActsTest, WhereNothingCanBeTyped) {
     }
 }
 
+TEST(ActsTest, EnterPassesALockedBoxToTheDefaultButton) {
+    ScriptStand stand;
+    EXPECT_EQ(stand.AfterStart("key Form11.Text2 13\n"
+                               "show Form11.Focus\n"
+                               "key Form11.Text2 8\n"
+                               "set Form11.Command1.Default 0\n"
+                               "key Form11.Text2 13\n"),
+              (Log{"ok", "ok \"Text2\"", "error Form11.Text2 is locked", "ok", "error Form11.Text2 is locked"}));
+    EXPECT_EQ(HeardOf(stand), (Log{"Text1_LostFocus", "Text2_GotFocus", "Command1_Click"}));
+}
+
 TEST(ActsTest, TypingIntoAComboBoxAndOnAButton) {
     ScriptStand stand;
     EXPECT_EQ(stand.AfterStart("type Form11.Combo1 \"ab\"\n"
