@@ -142,6 +142,9 @@ void Form16::SidesChanged() {
 }
 
 void Form16::Combo1_Click() {
+    // Intended: the figure comes before the dimension goes, so a change of parity still calculates with the old one,
+    // and the title follows.
+    DrawPolygon();
     SidesChanged();
     Text1.SetFocus();
 }

@@ -249,12 +249,16 @@ TEST_F(Polygons, DimensionsBeyondADoubleAreToldAndStay) {
     EXPECT_TRUE(F().Inch2.Enabled());
 }
 
-TEST_F(Polygons, ChoosingSidesSaysNothingOfADimensionOutOfRange) {
-    Solve("1E308");
-    Boxes();
-    F().Combo1.Text(" 7");
-    EXPECT_EQ(Boxes(), Texts{});
-    EXPECT_EQ(F().Text1.Text(), "");
+TEST_F(Polygons, ChoosingSidesTellsOfADimensionOutOfRangeWhereTheParityChanges) {
+    for (const auto& [sides, told] : {std::pair{" 8", Texts{}}, std::pair{" 7", Texts{NotValid}}}) {
+        Solve("1E308");
+        Boxes();
+        F().Combo1.Text(sides);
+        EXPECT_EQ(Boxes(), told);
+        EXPECT_EQ(F().Text1.Text(), "");
+        EXPECT_EQ(Focus(), "Text1");
+        ExpectNoResults();
+    }
 }
 
 TEST_F(Polygons, LeavingAndClosing) {
