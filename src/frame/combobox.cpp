@@ -94,7 +94,11 @@ void ComboBox::ActOnKey(int keyAscii) {
 }
 
 void ComboBox::Edited() {
-    list_.index = -1;
+    if (list_.index >= 0) {
+        // The text was mirrored while the choice still stood.
+        list_.index = -1;
+        Changed(Aspect::Text);
+    }
     EditControl::Edited();
 }
 
