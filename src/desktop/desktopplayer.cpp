@@ -166,11 +166,13 @@ void DesktopPlayer::Focus(InputControl& control) {
     if (QWidget* const widget = WidgetOf(control)) {
         widget->setFocus(Qt::TabFocusReason);
     }
-    // A window that the platform did not bring to the front tells its widgets of no focus.
+    // A window that the platform did not bring to the front tells its widgets of no focus, and a line in it does not
+    // bring back the selection that it had dropped.
     if (form.ActiveControl() != &control && !form.Owner().Ended()) {
         FormWindow* const window = runtime_.WindowOf(form);
         if (window == nullptr || !window->isActiveWindow()) {
             form.FocusByPerson(control);
+            runtime_.ControlChanged(control, Aspect::Selection);
         }
     }
 }
