@@ -8,6 +8,7 @@
 #include <cmath>
 #include <cstddef>
 #include <iterator>
+#include <set>
 #include <unordered_set>
 
 namespace brindlex::geometry {
@@ -126,6 +127,19 @@ void RemovePicked(Board& board, const Picks& picks) {
     RemoveKind(board.CircleArr, board.CircleTop, board.CircleIdx, CircleWidth, picks.Circles, marks);
     RemoveKind(board.LineArr, board.LineTop, board.LineIdx, LineWidth, picks.Lines, marks);
     RemoveKind(board.PointArr, board.PointTop, board.PointIdx, PointWidth, picks.Points, marks);
+}
+
+std::vector<double> NumbersPicked(const Board& board, const Picks& picks) {
+    std::set<double> numbers;
+    const auto add = [&](const auto& values, int width, const std::vector<int>& indices) {
+        for (const int index : indices) {
+            numbers.insert(values.at(static_cast<std::size_t>(index + width - 1)));
+        }
+    };
+    add(board.CircleArr, CircleWidth, picks.Circles);
+    add(board.LineArr, LineWidth, picks.Lines);
+    add(board.PointArr, PointWidth, picks.Points);
+    return {numbers.begin(), numbers.end()};
 }
 
 std::vector<std::string> LinesLeft(const std::vector<std::string>& lines, const Board& before, const Board& after) {

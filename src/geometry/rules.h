@@ -39,6 +39,8 @@ struct Picks {
 /// are looked at, since every pick stands there twice; entry 0 is not looked at, and where none is, the entities of
 /// that kind all go, unless an earlier comparison of the run had set the keep mark. All this is intended.
 void RemovePicked(Board& board, const Picks& picks);
+/// The numbers of the picked entities, each once, the smallest first.
+[[nodiscard]] std::vector<double> NumbersPicked(const Board& board, const Picks& picks);
 /// The lines after a removal: a record once for each array that still holds its number. `before` is the board before
 /// the removal: a record that was in none of its arrays could not be picked, and stays.
 [[nodiscard]] std::vector<std::string> LinesLeft(const std::vector<std::string>& lines, const Board& before,

@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <array>
+#include <string>
 #include <string_view>
 
 namespace brindlex::geometry {
@@ -60,6 +61,12 @@ void Session::OfferRemoving() {
     On.RemoveIt.Enabled(true);
     EnableTool("Delete", true);
     Offer(On.Command2);
+    // What is red, for those who do not see red.
+    std::string taken;
+    for (const double number : NumbersPicked(Entities, Pass.Marks.Hits)) {
+        taken += (taken.empty() ? "Taken:" : ",") + Str(number);
+    }
+    On.Command2.ToolTipText(taken);
 }
 
 void Session::WithdrawRemoving() {

@@ -264,6 +264,15 @@ TEST(GeometryRules, TheKeepMarkStaysSetFromKindToKind) {
     EXPECT_EQ(board.PointTop, 6);
 }
 
+TEST(GeometryRules, NumbersOfWhatWasPicked) {
+    Board board = BoardOf(2);
+    board.EnterCircle({0, 0}, 1, 9, {});
+    board.EnterLine({{0, 0}, {1, 1}}, 4, {});
+    board.EnterLine({{0, 0}, {1, 1}}, 3, {});
+    EXPECT_EQ(NumbersPicked(board, {{0, 0}, {5, 0, 5}, {3}}), (std::vector<double>{2, 3, 4, 9}));
+    EXPECT_TRUE(NumbersPicked(board, {}).empty());
+}
+
 TEST(GeometryRules, LinesLeftAfterARemoval) {
     const Lines lines{CircleLine(1, " 1", "0", "0"), "note", PointLine(2, "0", "0"), PointLine(3, "0", "0"),
                       PointLine(9, "0", "0")};
