@@ -72,7 +72,7 @@ void Strike(Stage& stage, const Form& form, int keyAscii) {
 void TypeAct(Stage& stage, ScriptLine& line) {
     const std::string name = line.Word();
     InputControl& control = FocusableControl(stage, name);
-    IsNotLocked(control, name);
+    RefuseLocked(control, name);
     const std::string text = line.Text();
     line.End();
     if (text.find('\0') != std::string::npos) {
@@ -96,7 +96,7 @@ void KeyAct(Stage& stage, ScriptLine& line) {
     }
     // Enter types nothing where it presses the default button, so a locked box passes it on.
     if (code != enter || control.Parent().DefaultButton() == nullptr) {
-        IsNotLocked(control, name);
+        RefuseLocked(control, name);
     }
     FocusUnlessThere(stage, control);
     Strike(stage, control.Parent(), code);

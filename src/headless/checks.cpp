@@ -79,7 +79,7 @@ InputControl& FocusableControl(Stage& stage, const std::string& name) {
     return *input;
 }
 
-void IsNotLocked(const InputControl& control, const std::string& name) {
+void RefuseLocked(const InputControl& control, const std::string& name) {
     const auto* const box = dynamic_cast<const EditControl*>(&control);
     if (box != nullptr && box->Locked()) {
         throw ScriptError(name + " is locked");

@@ -21,7 +21,7 @@ void NoteForms(Stage& stage);
 /// One that can have the focus.
 [[nodiscard]] InputControl& FocusableControl(Stage& stage, const std::string& name);
 /// Refuses a box whose text a person can't change.
-void IsNotLocked(const InputControl& control, const std::string& name);
+void RefuseLocked(const InputControl& control, const std::string& name);
 /// A menu item of such a form. Whether it is enabled shows when its menu has opened.
 [[nodiscard]] MenuItem& ReachableItem(Stage& stage, const std::string& name);
 

@@ -145,7 +145,8 @@ void Form16::Combo1_Click() {
     // Intended: the figure comes before the dimension goes, so a change of parity still calculates with the old one,
     // and the title follows.
     DrawPolygon();
-    SidesChanged();
+    Text1.Text("");
+    ClearResults();
     Text1.SetFocus();
 }
 
